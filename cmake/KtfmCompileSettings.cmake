@@ -1,0 +1,31 @@
+# How this project's own code is compiled. None of it reaches the targets of a host.
+
+option(KTFM_WARNINGS_AS_ERRORS "Treat warnings as errors (set by the developers' presets)" OFF)
+
+# The strict dialect of Qt that all our code is written in: no implicit conversions between byte strings and
+# text, no macros named like ordinary words.
+set(KTFM_QT_DEFINITIONS
+    QT_NO_KEYWORDS QT_NO_FOREACH QT_STRICT_ITERATORS QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
+    QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING)
+
+function(ktfm_compile_settings target)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  target_compile_definitions(${target} PRIVATE ${KTFM_QT_DEFINITIONS})
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  if(MSVC)
+    target_compile_options(${target} PRIVATE /W4 /utf-8 /permissive-)
+    if(KTFM_WARNINGS_AS_ERRORS)
+      target_compile_options(${target} PRIVATE /WX)
+    endif()
+  else()
+    target_compile_options(${target} PRIVATE
+      -Wall -Wextra -Wshadow -Wconversion -Woverloaded-virtual -Wundef)
+    if(KTFM_WARNINGS_AS_ERRORS)
+      target_compile_options(${target} PRIVATE -Werror)
+    endif()
+  endif()
+endfunction()

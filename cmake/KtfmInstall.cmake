@@ -1,0 +1,35 @@
+# What `cmake --install` puts below the prefix: library, public headers, CMake package and pkg-config file.
+
+include(CMakePackageConfigHelpers)
+set(ktfm_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KTFileManager2QU)
+
+install(TARGETS KTFileManager2QU EXPORT KTFileManager2QUTargets
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT runtime
+  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
+install(DIRECTORY ${KTFM_PUBLIC_INCLUDE_DIR}/KTFileManager2QU
+                  ${KTFM_GENERATED_INCLUDE_DIR}/KTFileManager2QU
+  DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development FILES_MATCHING PATTERN "*.h")
+install(EXPORT KTFileManager2QUTargets NAMESPACE KTFileManager2QU::
+  DESTINATION ${ktfm_cmake_dir} COMPONENT development)
+
+configure_package_config_file(cmake/KTFileManager2QUConfig.cmake.in
+  ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake INSTALL_DESTINATION ${ktfm_cmake_dir})
+write_basic_package_version_file(${PROJECT_BINARY_DIR}/KTFileManager2QUConfigVersion.cmake
+  COMPATIBILITY SameMajorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake
+              ${PROJECT_BINARY_DIR}/KTFileManager2QUConfigVersion.cmake
+  DESTINATION ${ktfm_cmake_dir} COMPONENT development)
+
+# pkg-config wants paths below ${prefix}, so that the installed tree may be moved; a distribution may give
+# absolute folders instead.
+foreach(kind LIB INCLUDE)
+  if(IS_ABSOLUTE "${CMAKE_INSTALL_${kind}DIR}")
+    set(KTFM_PC_${kind}DIR "${CMAKE_INSTALL_${kind}DIR}")
+  else()
+    set(KTFM_PC_${kind}DIR "\${prefix}/${CMAKE_INSTALL_${kind}DIR}")
+  endif()
+endforeach()
+configure_file(cmake/KTFileManager2QU.pc.in ${PROJECT_BINARY_DIR}/KTFileManager2QU.pc @ONLY)
+install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QU.pc
+  DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)
