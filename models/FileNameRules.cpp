@@ -17,4 +17,9 @@ bool HasSeparator(const QString& name)
     return name.contains(QLatin1Char('/')) || name.contains(QDir::separator());
 }
 
+bool IsRepresentable(const QString& name)
+{
+    return name.isValidUtf16() && !name.contains(QChar(QChar::Null));
+}
+
 } // namespace FileNameRules

@@ -18,6 +18,12 @@ bool HasForbiddenCharacter(const QString& name);
  */
 bool HasSeparator(const QString& name);
 
+/**
+ * @return whether a file system can hold @p name as it is: a null character would end it early, and half of
+ *         a surrogate pair would be stored as another character
+ */
+bool IsRepresentable(const QString& name);
+
 } // namespace FileNameRules
 
 #endif

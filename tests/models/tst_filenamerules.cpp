@@ -10,6 +10,7 @@ private Q_SLOTS:
     void findsEachForbiddenCharacter();
     void acceptsOrdinaryNames();
     void findsSeparatorsOfThePlatform();
+    void refusesWhatNoFileSystemCanHold();
 };
 
 void tst_FileNameRules::findsEachForbiddenCharacter_data()
@@ -44,6 +45,15 @@ void tst_FileNameRules::findsSeparatorsOfThePlatform()
 #else
     QVERIFY(!FileNameRules::HasSeparator(QStringLiteral("a\\b")));
 #endif
+}
+
+void tst_FileNameRules::refusesWhatNoFileSystemCanHold()
+{
+    QVERIFY(FileNameRules::IsRepresentable(QStringLiteral("plain")));
+    QVERIFY(FileNameRules::IsRepresentable(QString::fromUtf8("\xF0\x9F\x98\x80")));
+    QVERIFY(!FileNameRules::IsRepresentable(QStringLiteral("a") + QChar(0xD83D)));
+    QVERIFY(!FileNameRules::IsRepresentable(QStringLiteral("a") + QChar(0xDE00) + QStringLiteral("b")));
+    QVERIFY(!FileNameRules::IsRepresentable(QStringLiteral("a") + QChar(QChar::Null) + QStringLiteral("b")));
 }
 
 KTFM_TEST_MAIN(tst_FileNameRules)
