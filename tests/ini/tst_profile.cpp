@@ -55,6 +55,126 @@ QByteArray Utf16(const QString& text, bool bigEndian)
 
 const QByteArray Mark = QByteArrayLiteral("\xEF\xBB\xBF");
 
+/** A row of findsValue: what @p file answers for a key. */
+void FoundRow(const char* name, const QByteArray& file, const char* section, const char* key,
+              const char* value)
+{
+    QTest::newRow(name) << file << QString::fromUtf8(section) << QString::fromUtf8(key)
+                        << QString::fromUtf8(value);
+}
+
+void AddPlainRows()
+{
+    FoundRow("plain", "[S]\nk=v\n", "S", "k", "v");
+    FoundRow("no line end at the end", "[S]\nk=v", "S", "k", "v");
+    FoundRow("before the first section", "k=v\n[S]\nk=w\n", "", "k", "v");
+    FoundRow("section of the empty name", "[S]\nk=w\n[]\nk=v\n", "", "k", "v");
+    FoundRow("section of blanks", "[S]\nk=w\n[ \t]\nk=v\n", "", "k", "v");
+    FoundRow("same key in two sections", "[A]\nk=1\n[B]\nk=2\n", "A", "k", "1");
+}
+
+void AddMarkAndLineEndRows()
+{
+    FoundRow("byte-order mark", Mark + "[S]\nk=v\n", "S", "k", "v");
+    FoundRow("byte-order mark before a key", Mark + "k=v\n", "", "k", "v");
+    FoundRow("line behind a second mark is no section", Mark + Mark + "[S]\nk=v\n", "", "k", "v");
+    FoundRow("LF", "[S]\nj=1\nk=v\n", "S", "k", "v");
+    FoundRow("CR", "[S]\rj=1\rk=v\r", "S", "k", "v");
+    FoundRow("CR LF", "[S]\r\nj=1\r\nk=v\r\n", "S", "k", "v");
+    FoundRow("LF CR", "[S]\n\rj=1\n\rk=v\n\r", "S", "k", "v");
+    FoundRow("CR in a value ends the line", "[S]\nk=v\rrest\n", "S", "k", "v");
+    FoundRow("empty lines", "\n\n[S]\n\n \t\nk=v\n\n", "S", "k", "v");
+    FoundRow("other line separators are text", "[S]\nk=a\v\f\u0085\u2028b\n", "S", "k", "a\v\f\u0085\u2028b");
+}
+
+void AddCommentRows()
+{
+    FoundRow("comment with ;", "[S]\n;j=1\nk=v\n", "S", "k", "v");
+    FoundRow("comment with #", "[S]\n#j=1\nk=v\n", "S", "k", "v");
+    FoundRow("comments at the top", "; one\n# two\n[S]\nk=v\n", "S", "k", "v");
+    FoundRow("comments with empty lines between", "[S]\n;1\n\n  ;2\r\n\r\n\t#3\nk=v\n", "S", "k", "v");
+    FoundRow("comment as the last line", "[S]\nk=v\n;end", "S", "k", "v");
+    FoundRow("key with comment letters inside", "a;b#c=v\n", "", "a;b#c", "v");
+}
+
+void AddSectionRows()
+{
+    FoundRow("blanks and text around a section", "  [ Names ]  ; x\nk=v\n", "NAMES", "k", "v");
+    FoundRow("tabs around a section", "\t[\tNames\t]\nk=v\n", "Names", "k", "v");
+    FoundRow("blanks inside a section name", "[ My  Names ]\nk=v\n", "My  Names", "k", "v");
+    FoundRow("text behind a section", "[S] k=w\nk=v\n", "S", "k", "v");
+    FoundRow("section ends at the first bracket", "[a]b]\nk=v\n", "a", "k", "v");
+    FoundRow("bracket in a section name", "[a[b]\nk=v\n", "a[b", "k", "v");
+    FoundRow("equals sign in a section name", "[a=b]\nk=v\n", "a=b", "k", "v");
+    FoundRow("section without a closing bracket", "[A]\n[B\nk=v\n", "A", "k", "v");
+    FoundRow("unclosed section at the top", "[B\nk=v\n", "", "k", "v");
+    FoundRow("unclosed section with an equals sign", "[A]\n[B=1\nk=v\n", "A", "k", "v");
+    FoundRow("unclosed section before a closing line", "[A]\n[\nB]\nk=v\n", "A", "k", "v");
+    FoundRow("unclosed section before a closing CR line", "[A]\r  [ \rB]\rk=v\r", "A", "k", "v");
+    FoundRow("unclosed section before a section", "[A\n[B]\nk=v\n", "B", "k", "v");
+    FoundRow("unclosed sections before comments", "[A]\n[B\n;c\n\n[C\n#d\nk=v\n", "A", "k", "v");
+    FoundRow("bracket behind the start is a key", "[A]\nx[B=v\n", "A", "x[B", "v");
+    FoundRow("section in two places", "[A]\nj=1\n[B]\nj=2\n[a]\nk=v\n", "A", "k", "v");
+    FoundRow("section in two places keeps its first keys", "[A]\nk=v\n[B]\n[a]\nj=1\n", "A", "k", "v");
+}
+
+void AddLetterCaseRows()
+{
+    FoundRow("letter case of a section", "[sEcTiOn]\nk=v\n", "SeCtIoN", "k", "v");
+    FoundRow("letter case of a key", "[S]\nChair.FBX=v\n", "S", "cHAIR.fbx", "v");
+    FoundRow("key beyond ASCII", "[Stühle]\nß=v\n", "STüHLE", "ß", "v");
+    FoundRow("characters next to the letters differ", "[S]\n@`[{=v\n@`{{=w\n", "S", "@`[{", "v");
+}
+
+void AddValueRows()
+{
+    FoundRow("blanks around everything", "[S]\n \tk \t= \tv \t\n", "S", "k", "v");
+    FoundRow("blanks inside key and value", "[S]\nmy  key = my \t value\n", "S", "my  key", "my \t value");
+    FoundRow("empty value", "[S]\nk=\nj=1\n", "S", "k", "");
+    FoundRow("value of blanks", "[S]\nk= \t \nj=1\n", "S", "k", "");
+    FoundRow("empty value at the end", "[S]\nk=", "S", "k", "");
+    FoundRow("equals sign in a value", "[S]\nk=a=b\n", "S", "k", "a=b");
+    FoundRow("; in a value", "[S]\nkey = value ; note\n", "S", "key", "value ; note");
+    FoundRow("# in a value", "[S]\nkey = #1 # note\n", "S", "key", "#1 # note");
+    FoundRow("value that looks like a section", "[S]\nk=[T]\nj=1\n", "S", "k", "[T]");
+    FoundRow("key that occurs twice", "[S]\nk=1\nk=2\n", "S", "k", "2");
+    FoundRow("key twice in other letters", "[S]\nk=1\nK=2\n", "S", "k", "2");
+    FoundRow("key twice with a section between", "[S]\nk=1\n[T]\nk=3\n[s]\nk=2\n", "S", "k", "2");
+    FoundRow("line behind an empty key", "[S]\n=x\nk=v\n", "S", "k", "v");
+    FoundRow("line behind one without a value", "[S]\nx\nk=v\n", "S", "k", "v");
+    FoundRow("no values of several lines", "[S]\nk=<<<END\nj=1\nEND\n", "S", "k", "<<<END");
+    FoundRow("keys inside an open <<<", "[S]\nk=<<<END\nj=1\nEND\n", "S", "j", "1");
+    FoundRow("no escapes", "[S]\nk=a\\nb%20\\\\\n", "S", "k", "a\\nb%20\\\\");
+    FoundRow("backslash at the end does not join lines", "[S]\nk=a\\\nj=1\n", "S", "k", "a\\");
+}
+
+void AddQuoteRows()
+{
+    FoundRow("quotes keep blanks", "[S]\na.txt = \"  Hello \"\n", "S", "a.txt", "  Hello ");
+    FoundRow("quotes around nothing", "[S]\nk=\"\"\n", "S", "k", "");
+    FoundRow("a single quote", "[S]\nk=\"\n", "S", "k", "\"");
+    FoundRow("one pair of quotes is removed", "[S]\nk=\"\"a\"\"\n", "S", "k", "\"a\"");
+    FoundRow("three quotes", "[S]\nk=\"\"\"\n", "S", "k", "\"");
+    FoundRow("quotes inside stay", "[S]\nk=\"a \"b\" c\"\n", "S", "k", "a \"b\" c");
+    FoundRow("two quoted words", "[S]\nk=\"a\" and \"b\"\n", "S", "k", "a\" and \"b");
+    FoundRow("quote in front only", "[S]\nk=\"a\n", "S", "k", "\"a");
+    FoundRow("quote behind only", "[S]\nk=a\"\n", "S", "k", "a\"");
+    FoundRow("quote before a note", "[S]\nk=\"a\" ; b\n", "S", "k", "\"a\" ; b");
+    FoundRow("apostrophes stay", "[S]\nk='a'\n", "S", "k", "'a'");
+    FoundRow("quotes around a key stay", "[S]\n\"k\"=v\n", "S", "\"k\"", "v");
+    FoundRow("comment letters in quotes", "[S]\nk=\"; a # b\"\n", "S", "k", "; a # b");
+}
+
+void AddTextRows()
+{
+    FoundRow("text beyond the basic plane", "[S]\n\U0001F600=\U0001D11E x\n", "S", "\U0001F600",
+             "\U0001D11E x");
+    FoundRow("combining marks", "[S]\ne\u0301=n\u0303\n", "S", "e\u0301", "n\u0303");
+    FoundRow("non-breaking space is no blank", "[S]\nk=\u00A0v\u00A0\n", "S", "k", "\u00A0v\u00A0");
+    FoundRow("before a NUL", QByteArray("[S]\nk=v\n\0\nj=w\n", 14), "S", "k", "v");
+    FoundRow("value cut by a NUL", QByteArray("[S]\nk=v\0w\n", 10), "S", "k", "v");
+}
+
 } // namespace
 
 class tst_Profile : public QObject
@@ -114,99 +234,14 @@ void tst_Profile::findsValue_data()
     QTest::addColumn<QString>("section");
     QTest::addColumn<QString>("key");
     QTest::addColumn<QString>("value");
-    const auto row = [](const char* name, const QByteArray& file, const char* section, const char* key,
-                        const char* value) {
-        QTest::newRow(name) << file << QString::fromUtf8(section) << QString::fromUtf8(key)
-                            << QString::fromUtf8(value);
-    };
-
-    row("plain", "[S]\nk=v\n", "S", "k", "v");
-    row("no line end at the end", "[S]\nk=v", "S", "k", "v");
-    row("before the first section", "k=v\n[S]\nk=w\n", "", "k", "v");
-    row("section of the empty name", "[S]\nk=w\n[]\nk=v\n", "", "k", "v");
-    row("section of blanks", "[S]\nk=w\n[ \t]\nk=v\n", "", "k", "v");
-    row("same key in two sections", "[A]\nk=1\n[B]\nk=2\n", "A", "k", "1");
-
-    row("byte-order mark", Mark + "[S]\nk=v\n", "S", "k", "v");
-    row("byte-order mark before a key", Mark + "k=v\n", "", "k", "v");
-    row("line behind a second mark is no section", Mark + Mark + "[S]\nk=v\n", "", "k", "v");
-
-    row("LF", "[S]\nj=1\nk=v\n", "S", "k", "v");
-    row("CR", "[S]\rj=1\rk=v\r", "S", "k", "v");
-    row("CR LF", "[S]\r\nj=1\r\nk=v\r\n", "S", "k", "v");
-    row("LF CR", "[S]\n\rj=1\n\rk=v\n\r", "S", "k", "v");
-    row("CR in a value ends the line", "[S]\nk=v\rrest\n", "S", "k", "v");
-    row("empty lines", "\n\n[S]\n\n \t\nk=v\n\n", "S", "k", "v");
-    row("other line separators are text", "[S]\nk=a\v\f\u0085\u2028b\n", "S", "k", "a\v\f\u0085\u2028b");
-
-    row("comment with ;", "[S]\n;j=1\nk=v\n", "S", "k", "v");
-    row("comment with #", "[S]\n#j=1\nk=v\n", "S", "k", "v");
-    row("comments at the top", "; one\n# two\n[S]\nk=v\n", "S", "k", "v");
-    row("comments with empty lines between", "[S]\n;1\n\n  ;2\r\n\r\n\t#3\nk=v\n", "S", "k", "v");
-    row("comment as the last line", "[S]\nk=v\n;end", "S", "k", "v");
-    row("key with comment letters inside", "a;b#c=v\n", "", "a;b#c", "v");
-
-    row("blanks and text around a section", "  [ Names ]  ; x\nk=v\n", "NAMES", "k", "v");
-    row("tabs around a section", "\t[\tNames\t]\nk=v\n", "Names", "k", "v");
-    row("blanks inside a section name", "[ My  Names ]\nk=v\n", "My  Names", "k", "v");
-    row("text behind a section", "[S] k=w\nk=v\n", "S", "k", "v");
-    row("section ends at the first bracket", "[a]b]\nk=v\n", "a", "k", "v");
-    row("bracket in a section name", "[a[b]\nk=v\n", "a[b", "k", "v");
-    row("equals sign in a section name", "[a=b]\nk=v\n", "a=b", "k", "v");
-    row("section without a closing bracket", "[A]\n[B\nk=v\n", "A", "k", "v");
-    row("unclosed section at the top", "[B\nk=v\n", "", "k", "v");
-    row("unclosed section with an equals sign", "[A]\n[B=1\nk=v\n", "A", "k", "v");
-    row("unclosed section before a closing line", "[A]\n[\nB]\nk=v\n", "A", "k", "v");
-    row("unclosed section before a closing CR line", "[A]\r  [ \rB]\rk=v\r", "A", "k", "v");
-    row("unclosed section before a section", "[A\n[B]\nk=v\n", "B", "k", "v");
-    row("unclosed sections before comments", "[A]\n[B\n;c\n\n[C\n#d\nk=v\n", "A", "k", "v");
-    row("bracket behind the start is a key", "[A]\nx[B=v\n", "A", "x[B", "v");
-    row("section in two places", "[A]\nj=1\n[B]\nj=2\n[a]\nk=v\n", "A", "k", "v");
-    row("section in two places keeps its first keys", "[A]\nk=v\n[B]\n[a]\nj=1\n", "A", "k", "v");
-
-    row("letter case of a section", "[sEcTiOn]\nk=v\n", "SeCtIoN", "k", "v");
-    row("letter case of a key", "[S]\nChair.FBX=v\n", "S", "cHAIR.fbx", "v");
-    row("key beyond ASCII", "[Stühle]\nß=v\n", "STüHLE", "ß", "v");
-    row("characters next to the letters differ", "[S]\n@`[{=v\n@`{{=w\n", "S", "@`[{", "v");
-
-    row("blanks around everything", "[S]\n \tk \t= \tv \t\n", "S", "k", "v");
-    row("blanks inside key and value", "[S]\nmy  key = my \t value\n", "S", "my  key", "my \t value");
-    row("empty value", "[S]\nk=\nj=1\n", "S", "k", "");
-    row("value of blanks", "[S]\nk= \t \nj=1\n", "S", "k", "");
-    row("empty value at the end", "[S]\nk=", "S", "k", "");
-    row("equals sign in a value", "[S]\nk=a=b\n", "S", "k", "a=b");
-    row("; in a value", "[S]\nkey = value ; note\n", "S", "key", "value ; note");
-    row("# in a value", "[S]\nkey = #1 # note\n", "S", "key", "#1 # note");
-    row("value that looks like a section", "[S]\nk=[T]\nj=1\n", "S", "k", "[T]");
-    row("key that occurs twice", "[S]\nk=1\nk=2\n", "S", "k", "2");
-    row("key twice in other letters", "[S]\nk=1\nK=2\n", "S", "k", "2");
-    row("key twice with a section between", "[S]\nk=1\n[T]\nk=3\n[s]\nk=2\n", "S", "k", "2");
-    row("line behind an empty key", "[S]\n=x\nk=v\n", "S", "k", "v");
-    row("line behind one without a value", "[S]\nx\nk=v\n", "S", "k", "v");
-    row("no values of several lines", "[S]\nk=<<<END\nj=1\nEND\n", "S", "k", "<<<END");
-    row("keys inside an open <<<", "[S]\nk=<<<END\nj=1\nEND\n", "S", "j", "1");
-    row("no escapes", "[S]\nk=a\\nb%20\\\\\n", "S", "k", "a\\nb%20\\\\");
-    row("backslash at the end does not join lines", "[S]\nk=a\\\nj=1\n", "S", "k", "a\\");
-
-    row("quotes keep blanks", "[S]\na.txt = \"  Hello \"\n", "S", "a.txt", "  Hello ");
-    row("quotes around nothing", "[S]\nk=\"\"\n", "S", "k", "");
-    row("a single quote", "[S]\nk=\"\n", "S", "k", "\"");
-    row("one pair of quotes is removed", "[S]\nk=\"\"a\"\"\n", "S", "k", "\"a\"");
-    row("three quotes", "[S]\nk=\"\"\"\n", "S", "k", "\"");
-    row("quotes inside stay", "[S]\nk=\"a \"b\" c\"\n", "S", "k", "a \"b\" c");
-    row("two quoted words", "[S]\nk=\"a\" and \"b\"\n", "S", "k", "a\" and \"b");
-    row("quote in front only", "[S]\nk=\"a\n", "S", "k", "\"a");
-    row("quote behind only", "[S]\nk=a\"\n", "S", "k", "a\"");
-    row("quote before a note", "[S]\nk=\"a\" ; b\n", "S", "k", "\"a\" ; b");
-    row("apostrophes stay", "[S]\nk='a'\n", "S", "k", "'a'");
-    row("quotes around a key stay", "[S]\n\"k\"=v\n", "S", "\"k\"", "v");
-    row("comment letters in quotes", "[S]\nk=\"; a # b\"\n", "S", "k", "; a # b");
-
-    row("text beyond the basic plane", "[S]\n\U0001F600=\U0001D11E x\n", "S", "\U0001F600", "\U0001D11E x");
-    row("combining marks", "[S]\ne\u0301=n\u0303\n", "S", "e\u0301", "n\u0303");
-    row("non-breaking space is no blank", "[S]\nk=\u00A0v\u00A0\n", "S", "k", "\u00A0v\u00A0");
-    row("before a NUL", QByteArray("[S]\nk=v\n\0\nj=w\n", 14), "S", "k", "v");
-    row("value cut by a NUL", QByteArray("[S]\nk=v\0w\n", 10), "S", "k", "v");
+    AddPlainRows();
+    AddMarkAndLineEndRows();
+    AddCommentRows();
+    AddSectionRows();
+    AddLetterCaseRows();
+    AddValueRows();
+    AddQuoteRows();
+    AddTextRows();
 }
 
 void tst_Profile::findsValue()
