@@ -65,7 +65,8 @@ public:
     explicit NaiveReading(QString text)
     {
         text.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-        for (const QString& line : text.split(QLatin1Char('\n')))
+        const QStringList lines = text.split(QLatin1Char('\n'));
+        for (const QString& line : lines)
             Take(Trimmed(line));
     }
 
@@ -99,14 +100,14 @@ void RequireValue(const KT::CProfile& profile, const Names& names, const QString
     const KT::Result result =
         profile.GetValue(value, names.first.toStdWString(), names.second.toStdWString());
     Require(result.code == KT::ResultDone);
-    // Compared as wide text, in which a QString's lone surrogates have one form.
     Require(value == expected.toStdWString());
 }
 
 /** Every line of the file is asked for as a key as well: what the naive reading has not, must be missed. */
 void RequireMisses(const KT::CProfile& profile, const QString& text, const std::map<Names, QString>& values)
 {
-    for (const QString& line : text.split(QLatin1Char('\n'))) {
+    const QStringList lines = text.split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
         std::wstring value = L"fallback";
         const qint32 code = profile.GetValue(value, L"", line.toStdWString()).code;
         const bool known = values.count(Names(QLatin1String(""), WithoutAsciiCase(line))) > 0;

@@ -86,6 +86,7 @@ private Q_SLOTS:
     void backslashIsAnOrdinaryCharacterButAtTheEnd();
     void wildcardMatchesHiddenAndLinkedEntries();
     void wildcardCharactersOfARealNameMatchThemselves();
+    void wildcardCharactersOfAFolderAreNotExpanded();
     void relativePathsAreFound();
     void rootAloneDoesNotExist();
     void questionMarkStandsForOneCharacter();
@@ -219,6 +220,22 @@ void tst_ProfileFilePosix::wildcardCharactersOfARealNameMatchThemselves()
     QVERIFY(Exists(folder.Path(QStringLiteral("what*.ini"))));
     QVERIFY(Exists(folder.File(QStringLiteral("a*b/names.ini"))));
     QVERIFY(Exists(folder.Path(QStringLiteral("a*b/*.ini"))));
+}
+
+void tst_ProfileFilePosix::wildcardCharactersOfAFolderAreNotExpanded()
+{
+    // This folder may be entered, but not listed.
+    TestFolder folder;
+    const QString path = folder.File(QStringLiteral("a*b/names.ini"), "k=v\n");
+    const QString closed = folder.Path(QStringLiteral("a*b"));
+    QVERIFY(QFile::setPermissions(folder.Path(), Open));
+    QVERIFY(QFile::setPermissions(closed, QFileDevice::ExeOwner | QFileDevice::ExeGroup));
+    {
+        const OrdinaryUser user;
+        QVERIFY(Exists(path));
+        QVERIFY(!Exists(closed + QStringLiteral("/*.ini")));
+    }
+    QVERIFY(QFile::setPermissions(closed, Open));
 }
 
 void tst_ProfileFilePosix::relativePathsAreFound()
