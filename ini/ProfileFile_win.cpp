@@ -3,6 +3,9 @@
 #include <io.h>
 #include <windows.h>
 
+#include <cstdint>
+#include <utility>
+
 namespace ProfileFile {
 
 namespace {
