@@ -7,6 +7,7 @@
 #include "models/HostImageCache.h"
 #include "models/LazyIconProvider.h"
 #include "models/RenameErrorEvents.h"
+#include "models/VanishedFolders.h"
 
 #include <QDir>
 #include <QFile>
@@ -59,6 +60,7 @@ CKTFMListModel::CKTFMListModel(QObject* parent)
     setFilter(QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot);
     setNameFilterDisables(false);
     setReadOnly(false);
+    VanishedFolders::Follow(*this);
 }
 
 CKTFMListModel::~CKTFMListModel() = default;

@@ -7,6 +7,7 @@
 #include "models/HostImageCache.h"
 #include "models/LazyIconProvider.h"
 #include "models/RenameErrorEvents.h"
+#include "models/VanishedFolders.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +26,7 @@ CKTFMTreeModel::CKTFMTreeModel(QObject* parent)
     setIconProvider(m_pIconProvider.get());
     setFilter(QDir::AllDirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
     setNameFilterDisables(false);
+    VanishedFolders::Follow(*this);
 }
 
 CKTFMTreeModel::~CKTFMTreeModel() = default;
