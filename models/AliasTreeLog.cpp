@@ -1,0 +1,3 @@
+#include "models/AliasTreeLog.h"
+
+Q_LOGGING_CATEGORY(aliasTreeLog, "ktfm.aliastree")
