@@ -68,6 +68,26 @@ QVector<MenuEntry> EntriesOf(const QDir& folder, CTitleBarSlotInterface* host)
 
 } // namespace
 
+/** Marks a button as calling the host, while it lives. The button itself may die during the call. */
+class CTitleBarButton::HostCall
+{
+public:
+    explicit HostCall(CTitleBarButton* button) : m_button(button) { ++button->m_nHostCalls; }
+    ~HostCall()
+    {
+        if (m_button)
+            --m_button->m_nHostCalls;
+    }
+
+    HostCall(const HostCall&) = delete;
+    HostCall& operator=(const HostCall&) = delete;
+
+    bool ButtonIsGone() const { return m_button.isNull(); }
+
+private:
+    QPointer<CTitleBarButton> m_button;
+};
+
 CTitleBarButton::CTitleBarButton(QWidget* parent, QModelIndex& index)
     : QToolButton(parent),
       m_pMenu(nullptr),
@@ -85,26 +105,23 @@ CTitleBarButton::CTitleBarButton(QWidget* parent, QModelIndex& index)
     setMenu(m_pMenu);
 }
 
-CTitleBarButton::~CTitleBarButton()
-{
-    if (m_nMenuCalls == 0)
-        return;
-    // The host deletes the button because an entry of its menu was chosen. The menu is still busy with that
-    // entry and must outlive the call.
-    m_pMenu->setParent(nullptr, m_pMenu->windowFlags());
-    m_pMenu->deleteLater();
-}
+CTitleBarButton::~CTitleBarButton() = default;
 
 CTitleBarSlotInterface* CTitleBarButton::HostInterface() const
 {
     return m_pView ? m_pView->GetTitleBarInterface() : nullptr;
 }
 
+bool CTitleBarButton::IsCallingHost() const
+{
+    return m_nHostCalls > 0;
+}
+
 KT::Result CTitleBarButton::CreateMenu()
 {
-    const QPointer<CTitleBarButton> self(this);
+    const HostCall call(this);
     const QVector<MenuEntry> entries = EntriesOf(QDir(m_dir), HostInterface());
-    if (!self)
+    if (call.ButtonIsGone())
         return {KT::ResultDone};
     m_actions.clear();
     m_pMenu->clear();
@@ -125,16 +142,18 @@ void CTitleBarButton::AddFolderAction(const QString& path, const QString& text)
     connect(action, &QAction::triggered, this, [this, path] { OnFolderActionTriggered(path); });
 }
 
+void CTitleBarButton::OnClicked()
+{
+    const HostCall call(this);
+    if (CTitleBarSlotInterface* host = HostInterface())
+        host->OnTitleBarButtonClicked(GetModelIndex());
+}
+
 void CTitleBarButton::OnFolderActionTriggered(const QString& path)
 {
-    CTitleBarSlotInterface* host = HostInterface();
-    if (!host)
-        return;
-    const QPointer<CTitleBarButton> self(this);
-    ++m_nMenuCalls;
-    host->OnTitleBarMenuTriggered(path);
-    if (self)
-        --m_nMenuCalls;
+    const HostCall call(this);
+    if (CTitleBarSlotInterface* host = HostInterface())
+        host->OnTitleBarMenuTriggered(path);
 }
 
 void CTitleBarButton::SetMenuQActions(QString& text)

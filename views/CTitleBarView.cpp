@@ -1,5 +1,4 @@
 #include <KTFileManager2QU/CTitleBarView.h>
-#include <KTFileManager2QU/KTFMInterfaces.h>
 
 #include "views/SubFolders.h"
 
@@ -15,7 +14,18 @@ CTitleBarView::CTitleBarView(QWidget* parent, CTitleBarSlotInterface* slotInterf
     IniCrumBarWidget();
 }
 
-CTitleBarView::~CTitleBarView() = default;
+CTitleBarView::~CTitleBarView()
+{
+    // The host may delete the bar because a button of it was clicked or an entry of its menu was chosen. Both
+    // are used by the event's sender after that call, so that they must outlive it.
+    const auto buttons = findChildren<CTitleBarButton*>(QString(), Qt::FindDirectChildrenOnly);
+    for (CTitleBarButton* button : buttons) {
+        if (button->IsCallingHost()) {
+            button->setParent(nullptr);
+            button->deleteLater();
+        }
+    }
+}
 
 KT::Result CTitleBarView::IniCrumBarWidget()
 {
@@ -63,10 +73,7 @@ void CTitleBarView::AddButton(QModelIndex& index)
 {
     auto* button = new CTitleBarButton(this, index);
     m_buttons.append(button);
-    connect(button, &QToolButton::clicked, this, [this, button] {
-        if (m_pSlotInterface)
-            m_pSlotInterface->OnTitleBarButtonClicked(button->GetModelIndex());
-    });
+    connect(button, &QToolButton::clicked, button, &CTitleBarButton::OnClicked);
     connect(button->GetMenuPtr(), &QMenu::aboutToShow, button, &CTitleBarButton::CreateMenu);
 }
 

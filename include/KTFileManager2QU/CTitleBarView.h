@@ -107,8 +107,13 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    friend class CTitleBarView;
+    class HostCall;
+
     CTitleBarSlotInterface* HostInterface() const;
+    bool IsCallingHost() const;
     void AddFolderAction(const QString& path, const QString& text);
+    void OnClicked();
     void OnFolderActionTriggered(const QString& path);
 
     QMenu* m_pMenu;
@@ -117,7 +122,7 @@ private:
     QModelIndex m_index;
     int m_nOpacity;
     QPointer<CTitleBarView> m_pView;
-    int m_nMenuCalls = 0; ///< calls of the host that a menu entry has under way
+    int m_nHostCalls = 0; ///< calls of the host under way
 };
 
 /**
@@ -142,6 +147,9 @@ public:
      * @param slotInterface the host, not owned; it must outlive the bar. May be null.
      */
     CTitleBarView(QWidget* parent, CTitleBarSlotInterface* slotInterface);
+
+    /** Its buttons die with it, but for one that is just telling the host something: that one a little later.
+     */
     ~CTitleBarView() override;
 
     /**

@@ -118,7 +118,7 @@ void WhenAMenuOpens(const std::function<void(QMenu*)>& work)
 }
 
 /** Opens the menu of a button by a click on its arrow; returns when the menu is closed. */
-void ClickArrow(QPointer<QToolButton> button)
+void ClickArrow(QPointer<CTitleBarButton> button)
 {
     constexpr int fromTheEdge = 4;
     const int x = button->isRightToLeft() ? fromTheEdge : button->width() - fromTheEdge;
@@ -128,7 +128,7 @@ void ClickArrow(QPointer<QToolButton> button)
         QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, arrow);
 }
 
-void ClickName(QPointer<QToolButton> button)
+void ClickName(QPointer<CTitleBarButton> button)
 {
     constexpr int fromTheEdge = 6;
     const QPoint name(fromTheEdge, button->height() / 2);
@@ -229,6 +229,8 @@ private Q_SLOTS:
     void longNamesAreKept();
     void hostMayRebuildTheBarFromAClick();
     void hostMayDeleteTheBarFromAClick();
+    void hostMayRebuildAndThenDeleteTheBarFromAClick();
+    void hostMayDeleteTheBarFromAKey();
     void hostMayRebuildTheBarFromAMenu();
     void hostMayDeleteTheBarFromAMenu();
     void hostMayDeleteTheBarFromAMenuByKey();
@@ -918,10 +920,40 @@ void tst_TitleBarView::hostMayDeleteTheBarFromAClick()
 {
     Fixture f;
     f.Show(f.folder.Path());
+    const QPointer<CTitleBarButton> button = f.bar->GetToolButton(1);
+    const QPointer<CTitleBarButton> other = f.Current();
     f.host.onClicked = [&f] { delete f.bar; };
-    ClickName(f.bar->GetToolButton(1));
+    ClickName(button);
     QVERIFY(!f.bar);
+    QVERIFY(!other);
     QCOMPARE(f.host.clicked.size(), 1);
+    QTRY_VERIFY(!button);
+}
+
+void tst_TitleBarView::hostMayRebuildAndThenDeleteTheBarFromAClick()
+{
+    Fixture f;
+    f.Show(f.folder.Path());
+    const QPointer<CTitleBarButton> button = f.bar->GetToolButton(1);
+    f.host.onClicked = [&f] {
+        f.bar->UpdateCrumBar(f.host.clicked.constLast(), false);
+        delete f.bar;
+    };
+    ClickName(button);
+    QVERIFY(!f.bar);
+    QTRY_VERIFY(!button);
+}
+
+void tst_TitleBarView::hostMayDeleteTheBarFromAKey()
+{
+    Fixture f;
+    f.Show(f.folder.Path());
+    const QPointer<CTitleBarButton> button = f.Current();
+    f.host.onClicked = [&f] { delete f.bar; };
+    QTest::keyPress(button, Qt::Key_Space);
+    QTest::keyRelease(button, Qt::Key_Space);
+    QVERIFY(!f.bar);
+    QTRY_VERIFY(!button);
 }
 
 void tst_TitleBarView::hostMayRebuildTheBarFromAMenu()
