@@ -1,0 +1,5 @@
+#include <KTFileManager2QU/CTitleBarView.h>
+
+CAction::CAction(QObject* parent) : QAction(parent) {}
+
+CAction::~CAction() = default;
