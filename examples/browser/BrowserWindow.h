@@ -1,0 +1,43 @@
+#ifndef BROWSERWINDOW_H
+#define BROWSERWINDOW_H
+
+#include <KTFileManager2QU/KTFMInterfaces.h>
+
+#include <QMainWindow>
+
+class CKTFileManager;
+class QAction;
+class QActionGroup;
+
+/**
+ * A small file browser around one pane.
+ *
+ * It shows what a host does: it creates the pane, hands it its callbacks, points it at a folder, and gives
+ * the user buttons for what the pane can do.
+ */
+class BrowserWindow : public QMainWindow, private CKTFMInterface
+{
+    Q_OBJECT
+
+public:
+    BrowserWindow();
+    ~BrowserWindow() override;
+
+    /** Shows a folder in tree and list. */
+    void OpenFolder(const QString& path);
+
+    /** @return the pane, which this window owns */
+    CKTFileManager* Pane() const;
+
+private:
+    void CreateViewActions();
+    QAction* AddViewAction(QActionGroup* group, const QString& text, EKTFMViewMode mode);
+    void OpenParentFolder();
+
+    void OnLButtonDblClickListItem(QString absolutePath, bool isFolder) override;
+    void OnListViewRootPathChanged(const QString& newPath) override;
+
+    CKTFileManager* m_pPane;
+};
+
+#endif

@@ -1,0 +1,288 @@
+#ifndef CKTFILEMANAGER_H
+#define CKTFILEMANAGER_H
+
+#include <KTFileManager2QU/KTFMExport.h>
+#include <KTFileManager2QU/KTFMTypes.h>
+
+#include <QColor>
+#include <QDir>
+#include <QModelIndex>
+#include <QRect>
+#include <QSize>
+#include <QStringList>
+#include <QWidget>
+
+class CKTFMAliasTreeModel;
+class CKTFMAliasTreeModelInterface;
+class CKTFMDelegate;
+class CKTFMInterface;
+class CKTFMListModel;
+class CKTFMListModelInterface;
+class CKTFMTreeModel;
+class CKTFMTreeModelInterface;
+class CKTListView;
+class CKTTreeView;
+class CMySortFilterProxyModel;
+class QFileSystemModel;
+class QFileSystemWatcher;
+class QItemSelection;
+class QItemSelectionModel;
+class QMenu;
+class QSplitter;
+class QStackedWidget;
+class QTreeView;
+
+/**
+ * A complete file-manager pane.
+ *
+ * One widget holds a folder tree, a file list that is shown as a grid of thumbnails or as a table of details,
+ * and an alias tree of named categories; EKTFMMode says which of them are seen. The panes are kept in step: a
+ * folder opened in one is shown by the others.
+ *
+ * A host creates the widget, hands it the callbacks by which it supplies texts and images and hears of events
+ * (SetCallBackInterface), and points it at a folder (SetDirectory).
+ *
+ * Ownership: views, menu, proxy and watcher die with the widget. The three models are created without a
+ * parent and are never deleted by the widget: they may be used on after it. A host that has no such use takes
+ * them from GetListModel(), GetTreeModel() and GetAliasTreeModel() and deletes them after the widget.
+ * Callbacks and the parent of message boxes are borrowed.
+ *
+ * Everything runs on the GUI thread.
+ */
+class KTFM_EXPORT CKTFileManager : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /**
+     * Builds the pane, usable at once. It shows no folder until SetDirectory.
+     *
+     * @param rect the widget's geometry within @p parent, in pixels
+     * @param mode the layout; it never changes. A value beyond the enumeration's shows all three panes.
+     * @param leftPanePercent the share of the width that the left pane gets where there are two; the list
+     * gets the rest
+     * @param showExtension whether a file whose name is not found in the mapping file is shown with its
+     *        extension (CKTFMListModel::SetUnfoundINIShowExtName)
+     */
+    CKTFileManager(QWidget* parent, QRect rect, EKTFMMode mode, int leftPanePercent, bool showExtension);
+
+    /** Leaves the three models alive. */
+    ~CKTFileManager() override;
+
+    /** @return the model of the file list; the list views show it through a proxy of their own */
+    CKTFMListModel* GetListModel() const;
+
+    /** @return the model of the folder tree */
+    CKTFMTreeModel* GetTreeModel() const;
+
+    /** @return the model of the alias tree */
+    CKTFMAliasTreeModel* GetAliasTreeModel() const;
+
+    /** @return the view of the alias tree */
+    QTreeView* GetAliasTreeView() const;
+
+    /** @return what paints and edits the thumbnails; the table of details keeps Qt's own delegate */
+    CKTFMDelegate* GetListViewDelegate() const;
+
+    /** @return the menu shown on a right click, which the host fills; it is not shown while it is empty */
+    QMenu* GetContextMenu() const;
+
+    /**
+     * @return the stored view mode. It starts as FM_VIEW_DETAIL although the grid is shown, on purpose: the
+     *         first ToggleListViewMode therefore shows the grid.
+     */
+    EKTFMViewMode GetViewMode() const;
+
+    /** @return whether drags from the table of details offer every action instead of copying alone */
+    bool IsCustomViewMode() const;
+
+    /** Sets whether drags from the table of details offer every action; false at first. */
+    void SetCustomViewMode(bool custom);
+
+    /** Sets the parent of the message boxes that file commands show; borrowed, null at first. */
+    void SetParentForMsgBox(QWidget* parent);
+
+    /** Names the pane that file commands act on; clicks and context menus set it too. The list at first. */
+    void SetLastMenuFrom(EKTFMPart part);
+
+    /**
+     * Sets the host's callbacks: the widget's own and those of the three models. All are borrowed, must live
+     * as long as the widget and its models, and may be null.
+     */
+    void SetCallBackInterface(CKTFMInterface* fm, CKTFMTreeModelInterface* tree,
+                              CKTFMListModelInterface* list, CKTFMAliasTreeModelInterface* alias);
+
+    /** @return the size of the grid's images, in pixels */
+    QSize GetListIconSize() const;
+
+    /** @return the size of the images in the table of details, in pixels */
+    QSize GetDetailIconSize() const;
+
+    /** @return 100 x 100, although presets reach 125 x 125 */
+    QSize GetMaxIconSize() const;
+
+    /** Repaints the grid for FM_UPDATE_LIST_VIEW; other values do nothing. */
+    void UpdateWnd(EKTFMUpdateWidget widget);
+
+    /** Installs an event filter on the two views of the file list. */
+    void InstallEventFilter(QObject* filter);
+
+    /**
+     * Shows the file list as @p mode says and stores the mode.
+     *
+     * A grid mode resets the grid margin to 40 x 40 after it has been used once, and sorts by name. Showing
+     * the details selects whole rows and leaves icon sizes and grid alone. Other values are stored only.
+     */
+    void SetViewMode(EKTFMViewMode mode);
+
+    /**
+     * Sets the icon size preset of grid and details; values beyond the presets are stored only. The columns
+     * of the grid are spread at the next CalculateItemPosition.
+     */
+    void SetIconSize(EKTFMIconSize size);
+
+    /** Sets the grid margin of a preset, to be used by the next change of icon size or view mode. */
+    void SetGridSize(EKTFMGridSize size);
+
+    /** Sets the grid margin in pixels, to be used by the next change of icon size or view mode. */
+    void SetGridMargin(int width, int height);
+
+    /**
+     * Spreads the columns of the grid evenly over the width of its view; done when the widget is resized or
+     * shown. It does nothing while the details are shown, or when a cell would have no width.
+     */
+    void CalculateItemPosition();
+
+    /** Sets the selection behaviour of the file list. @return true, also for a value that changes nothing */
+    bool SetSelectionMode(EKTFMSelectionMode mode);
+
+    /** Sets the name filters of the file list, such as "*.png"; an empty list is ignored. */
+    void SetFilter(QStringList filters);
+
+    /**
+     * Makes a folder the root of the folder tree.
+     *
+     * The first call shows the tree alone; each later one also shows the folder in the file list. To fill the
+     * list right away, call it twice or follow it with SelectTreeItem.
+     * @return true
+     */
+    bool SetDirectory(QString path);
+
+    /** Shows the folder of a tree-model index in the file list and focuses it; nothing if it does not exist.
+     */
+    void SelectTreeItem(const QModelIndex& treeIndex);
+
+    /** The point lies in @p widget's rectangle, edges included, whether or not the widget is seen. */
+    bool IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const;
+
+public Q_SLOTS:
+    /** Cycles the view mode: grid, large grid, details. */
+    void ToggleListViewMode();
+
+    /** Cycles the presets FM_ICON_LARGE, FM_ICON_MEDIUM, FM_ICON_SMALL; from another one it changes nothing.
+     */
+    void ToggleListIconSize();
+
+    /** An item of the file list was clicked or activated. @param index an index of the list views' model */
+    void OnListClicked(const QModelIndex& index);
+
+    /** An item of the file list was double-clicked: a folder is opened in every pane, a file left to the
+     * host. */
+    void OnListDblClicked(const QModelIndex& index);
+
+    /** A folder of the tree was clicked or activated: it is shown in the file list. */
+    void OnTreeClicked(const QModelIndex& index);
+
+    /** Relays a changed selection of the file list to the host. */
+    void OnListViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+
+    /** Clears the file list's selection and relays the tree's to the host. */
+    void OnTreeViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+
+    /** Relays the list's new folder to the host. */
+    void OnListViewRootPathChanged(const QString& newPath);
+
+    /** Relays the tree's new root to the host. */
+    void OnTreeViewRootPathChanged(const QString& newPath);
+
+    /** Relays a refused rename of the list. */
+    void OnListRenameFileError(int error);
+
+    /** Relays a refused rename of the tree. */
+    void OnTreeRenameFileError(int error);
+
+    /** Relays a refused rename of the alias tree. */
+    void OnAliasTreeRenameFileError(int error);
+
+Q_SIGNALS:
+    /**
+     * Something that the user asked for failed.
+     * @param nFrom the pane: 1 folder tree, 2 file list, 3 alias tree
+     * @param nActionID the operation: 0 rename
+     * @param nErrorID 0 the new name exists, 1 it is invalid or the file system refused it
+     */
+    void OnError(int nFrom, int nActionID, int nErrorID);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void CreateTreeView();
+    void CreateListView();
+    void CreateDetailView();
+    void CreateViewStack();
+    void CreateAliasTreeView();
+    void CreateLayout(const QRect& rect, int leftPanePercent);
+    void ArrangePanes(QSplitter* splitter, int leftPanePercent);
+    void CreateModels(bool showExtension);
+    void CreateProxy();
+    void CreateDelegate();
+    void ApplyInitialSizes();
+    void ShareSelection();
+    void ConnectViews();
+    void ConnectSelections();
+    void ConnectModels();
+    void HideTopLevelRows();
+
+    void RelayError(int pane, int error);
+    void SetIconSizes(const QSize& listSize, const QSize& detailSize);
+    void TellDetailIconWidth();
+    void ShowDetails();
+    void ShowGrid(const QSize& listSize, const QSize& detailSize, EKTFMIconSize preset);
+
+    QModelIndex MapToSource(QModelIndex index) const;
+    QModelIndex MapFromSource(QModelIndex index) const;
+    void RefreshModel(QFileSystemModel* model, QDir::Filters through);
+    QModelIndex SetTreeRootPath(const QString& path);
+    void ShowInList(const QString& path);
+    void OpenFolder(const QString& path);
+
+    QWidget* m_pMsgBoxParent = nullptr;
+    QStackedWidget* m_pViewStack = nullptr;
+    CKTListView* m_pListView = nullptr;
+    CKTTreeView* m_pDetailView = nullptr;
+    QTreeView* m_pTreeView = nullptr;
+    QTreeView* m_pAliasTreeView = nullptr;
+    EKTFMMode m_eMode;
+    CKTFMListModel* m_pListModel = nullptr;
+    CKTFMTreeModel* m_pTreeModel = nullptr;
+    CKTFMAliasTreeModel* m_pAliasTreeModel = nullptr;
+    CKTFMInterface* m_pInterface = nullptr;
+    CKTFMDelegate* m_pDelegate = nullptr;
+    QItemSelectionModel* m_pListSelectionModel = nullptr;
+    QItemSelectionModel* m_pTreeSelectionModel = nullptr;
+    QItemSelectionModel* m_pDetailSelectionModel = nullptr; ///< spare, used while the shared one is cleared
+    QItemSelectionModel* m_pAliasSelectionModel = nullptr;
+    CMySortFilterProxyModel* m_pProxy = nullptr;
+    EKTFMIconSize m_eIconSize = FM_ICON_SMALL;
+    QMenu* m_pContextMenu = nullptr;
+    QStringList m_watchedPaths;
+    QSize m_gridMargin;
+    QFileSystemWatcher* m_pWatcher = nullptr;
+    EKTFMPart m_eLastMenuFrom = FM_PART_LIST;
+    bool m_bCustomViewMode = false;
+    EKTFMViewMode m_eViewMode = FM_VIEW_DETAIL;
+};
+
+#endif
