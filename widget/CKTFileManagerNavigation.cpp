@@ -9,6 +9,7 @@
 #include "views/CKTListView.h"
 #include "views/CKTTreeView.h"
 
+#include <QDirIterator>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QStackedWidget>
@@ -84,12 +85,116 @@ void CKTFileManager::SelectTreeItem(const QModelIndex& treeIndex)
     ShowInList(folder.absoluteFilePath());
     m_pListView->clearSelection();
     m_pDetailView->clearSelection();
-    m_pViewStack->currentWidget()->setFocus(Qt::OtherFocusReason);
+    ShownListView()->setFocus(Qt::OtherFocusReason);
 }
 
-bool CKTFileManager::IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const
+QAbstractItemView* CKTFileManager::ShownListView() const
 {
-    return QRect(widget->mapToGlobal(QPoint(0, 0)), widget->size()).contains(globalPos);
+    if (m_pViewStack->currentIndex() == 0)
+        return m_pListView;
+    return m_pDetailView;
+}
+
+QString CKTFileManager::GoToParentFolder()
+{
+    const QModelIndex parent = m_pTreeView->currentIndex().parent();
+    if (!parent.isValid())
+        return QString();
+    m_pTreeView->setCurrentIndex(parent);
+    SelectTreeItem(parent);
+    return QFileInfo(m_pTreeModel->filePath(parent)).absoluteFilePath();
+}
+
+bool CKTFileManager::SetCurrentSelection(int n)
+{
+    const QDir folder(m_pListModel->rootPath());
+    const QStringList names =
+        folder.entryList(QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::NoSort);
+    if (n < 0 || n >= names.size())
+        return false;
+    const bool fromLast = m_pDetailView->header()->sortIndicatorOrder() == Qt::DescendingOrder;
+    const int position = fromLast ? names.size() - n - 1 : n;
+    const QModelIndex source = m_pListModel->index(folder.filePath(names.at(position)));
+    if (!source.isValid())
+        return false;
+    const QPersistentModelIndex index = MapFromSource(source);
+    OnListClicked(index);
+    m_pListView->setCurrentIndex(index);
+    return true;
+}
+
+bool CKTFileManager::SetCurrentSelection(QString path, bool notify, bool edit)
+{
+    const QModelIndex source = m_pListModel->index(path, 0);
+    if (!source.isValid()) {
+        m_pListView->clearSelection();
+        return false;
+    }
+    const QPersistentModelIndex index = MapFromSource(source);
+    if (notify)
+        OnListClicked(index);
+    ShownListView()->setCurrentIndex(index);
+    if (edit)
+        ShownListView()->edit(index);
+    return true;
+}
+
+void CKTFileManager::ClearCurrentSelection()
+{
+    m_pListView->clearSelection();
+    m_pDetailView->clearSelection();
+}
+
+QString CKTFileManager::GetCurSelectedFolder(EKTFMPart part) const
+{
+    switch (part) {
+    case FM_PART_TREE:
+    case FM_PART_LIST:
+        return m_pTreeModel->filePath(m_pTreeSelectionModel->currentIndex());
+    case FM_PART_ALIAS_TREE:
+        return m_pAliasTreeModel->GetMappedFolderPath(GetCurSelectedAliasIndex());
+    default:
+        return QString();
+    }
+}
+
+QModelIndex CKTFileManager::GetCurSelectedAliasIndex() const
+{
+    return m_pAliasSelectionModel->currentIndex();
+}
+
+bool CKTFileManager::IsFocus() const
+{
+    const QWidget* focused = focusWidget();
+    return focused && (focused == m_pTreeView || focused == m_pListView || focused == m_pDetailView);
+}
+
+QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
+{
+    QStringList paths;
+    if (!fromList) {
+        const QModelIndexList folders = m_pTreeSelectionModel->selectedIndexes();
+        for (const QModelIndex& index : folders)
+            paths.append(m_pTreeModel->filePath(index));
+        return paths;
+    }
+    // The grid selects items, not rows.
+    QModelIndexList indexes = m_pListSelectionModel->selectedRows(0);
+    if (indexes.isEmpty())
+        indexes = m_pListSelectionModel->selectedIndexes();
+    for (const QModelIndex& index : qAsConst(indexes))
+        paths.append(m_pListModel->filePath(MapToSource(index)));
+    paths.removeDuplicates();
+    return paths;
+}
+
+QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFilters) const
+{
+    QStringList paths;
+    QDirIterator files(m_pListModel->rootPath(), nameFilters, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext())
+        paths.append(files.next());
+    return paths;
 }
 
 void CKTFileManager::OnTreeClicked(const QModelIndex& index)

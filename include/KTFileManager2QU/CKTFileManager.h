@@ -23,6 +23,7 @@ class CKTFMTreeModelInterface;
 class CKTListView;
 class CKTTreeView;
 class CMySortFilterProxyModel;
+class QAbstractItemView;
 class QFileSystemModel;
 class QFileSystemWatcher;
 class QItemSelection;
@@ -172,10 +173,116 @@ public:
      */
     void SelectTreeItem(const QModelIndex& treeIndex);
 
+    /**
+     * Moves the folder tree's current item one level up and shows that folder in the file list.
+     * @return the absolute path of the folder; empty when nothing is above the current item, which then stays
+     */
+    QString GoToParentFolder();
+
+    /**
+     * Makes the n-th file of the listed folder current, as if it had been clicked.
+     *
+     * Files are counted from 0 in the order of the disk, folders and links left out; from the last one when
+     * the header of the table of details shows a descending order. Linear in the folder's entries.
+     * @return false when there is no such file
+     */
+    bool SetCurrentSelection(int n);
+
+    /**
+     * Makes an item of the file list current, in the view that is shown.
+     *
+     * @param notify whether the host is told as if the item had been clicked
+     * @param edit whether to start renaming it
+     * @return false when the model does not list @p path; the selection is then cleared
+     */
+    bool SetCurrentSelection(QString path, bool notify, bool edit);
+
+    /** Clears the selection of the file list. */
+    void ClearCurrentSelection();
+
+    /**
+     * @return the current folder of a pane. For the file list this is the current folder of the tree; for a
+     *         value that names no pane it is empty.
+     */
+    QString GetCurSelectedFolder(EKTFMPart part) const;
+
+    /** @return the current index of the alias tree */
+    QModelIndex GetCurSelectedAliasIndex() const;
+
+    /** @return whether the folder tree or a view of the file list is this widget's focus widget */
+    bool IsFocus() const;
+
+    /**
+     * @return the paths of the selected items of the file list, each once and in the order of selection, or,
+     * when
+     *         @p fromList is false, of the folder tree. Linear in the selection.
+     */
+    QStringList GetCurSelectedFileList(bool fromList) const;
+
+    /**
+     * @return every file below the listed folder whose name matches @p nameFilters. Reads all the folders
+     * below, without following links.
+     */
+    QStringList GetAllFilePathFromListView(const QStringList& nameFilters) const;
+
+    /**
+     * Sets the background of the folder tree and of both views of the file list by style sheets; the alias
+     * tree keeps its own. The views get the object names "pTreeView", "pListView" and "pListDetailView", for
+     * style sheets of the host.
+     */
+    void SetBgColor(QColor treeColor, QColor listColor);
+
+    /**
+     * Styles a scroll bar of the icon grid.
+     * @param vertical which bar: the vertical one gets @p width, the horizontal one @p height, in pixels
+     * @param color stands in the style sheet with an opacity of 0, on purpose, and so is not seen
+     */
+    void SetListviewScrollBarStyle(bool vertical, int width, int height, QColor color);
+
+    /** Styles a scroll bar of the table of details, like SetListviewScrollBarStyle. */
+    void SetDetailviewScrollBarStyle(bool vertical, int width, int height, QColor color);
+
+    /** Lets the grid fill rows and scroll vertically, or fill columns and scroll horizontally. */
+    void SetListviewScrollBarDirection(bool vertical);
+
+    /** Sets the highlight of hovered or selected thumbnails: see CKTFMDelegate::SetItemHoverColor. */
+    void SetItemDisplayInfo(EItemStatus status, QColor c1, QColor c2, QColor c3, int n);
+
+    /** Sets the border around each thumbnail, in pixels a side. */
+    void SetItemBorder(int width, int height);
+
+    /** Sets the height of a thumbnail's name, in lines of its font. */
+    void SetHeightRatioOfTextArea(float ratio);
+
+    /** Whether the thumbnails of files have a grey backdrop. */
+    void SetThumbnailDrawOutline(bool draw);
+
+    /**
+     * Switches interactions on or off for panes.
+     * @param parts a set of EKTFMPart bits
+     * @param flags a set of bits: 1 renaming, 2 tool tips, 4 dragging
+     */
+    void SetFlagStatus(int parts, int flags, bool on);
+
+    /** Sets how a pane's names are shown. */
+    void SetFMViewShowStringMode(EKTFMPart part, EKTFMShowStringMode mode);
+
+    /**
+     * Sets the INI file and section that a pane's names are mapped through. The alias tree takes its sections
+     * from its items and passes over @p section.
+     */
+    void SetFilenameMappingINIFile(EKTFMPart part, const QString& file, const QString& section);
+
+    /** Sets the section alone, for the folder tree or the file list. */
+    void SetFilenameMappingINISection(EKTFMPart part, const QString& section);
+
     /** The point lies in @p widget's rectangle, edges included, whether or not the widget is seen. */
     bool IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const;
 
 public Q_SLOTS:
+    /** Tells the host of a right click, by pane, and shows the context menu unless it is empty. */
+    void contextMenuEvent(QContextMenuEvent* pContextMenuEvent) override;
+
     /** Cycles the view mode: grid, large grid, details. */
     void ToggleListViewMode();
 
@@ -228,6 +335,8 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    struct MenuPane;
+
     void CreateTreeView();
     void CreateListView();
     void CreateDetailView();
@@ -257,6 +366,8 @@ private:
     QModelIndex SetTreeRootPath(const QString& path);
     void ShowInList(const QString& path);
     void OpenFolder(const QString& path);
+    QAbstractItemView* ShownListView() const;
+    void TellHostOfMenu(const QPoint& globalPos);
 
     QWidget* m_pMsgBoxParent = nullptr;
     QStackedWidget* m_pViewStack = nullptr;
