@@ -57,6 +57,7 @@ CKTFileManager::CKTFileManager(QWidget* parent, QRect rect, EKTFMMode mode, int 
     ConnectViews();
     ConnectSelections();
     ConnectModels();
+    ConnectAliasTree();
     HideTopLevelRows();
 }
 
@@ -243,6 +244,23 @@ void CKTFileManager::ConnectModels()
             &CKTFileManager::OnAliasTreeRenameFileError);
     connect(m_pProxy, &QAbstractItemModel::rowsInserted, this, &CKTFileManager::HideTopLevelRows);
     connect(m_pProxy, &QAbstractItemModel::rowsRemoved, this, &CKTFileManager::HideTopLevelRows);
+}
+
+void CKTFileManager::ConnectAliasTree()
+{
+    connect(m_pAliasTreeView, &QTreeView::clicked, this, &CKTFileManager::OnAliasTreeClicked);
+    connect(m_pAliasTreeView, &QTreeView::activated, this, &CKTFileManager::OnAliasTreeClicked);
+    connect(m_pAliasTreeView, &QTreeView::doubleClicked, this, &CKTFileManager::OnAliasTreeDblClicked);
+    connect(m_pAliasSelectionModel, &QItemSelectionModel::selectionChanged, this,
+            &CKTFileManager::OnAliasTreeViewSelectionChanged);
+    connect(m_pWatcher, &QFileSystemWatcher::directoryChanged, this, &CKTFileManager::OnDirectoryChanged,
+            Qt::UniqueConnection);
+    connect(m_pAliasTreeView, &QTreeView::expanded, this, &CKTFileManager::OnAliasTreeExpand,
+            Qt::UniqueConnection);
+    connect(m_pAliasTreeView, &QTreeView::collapsed, this, &CKTFileManager::OnAliasTreeCollapsed,
+            Qt::UniqueConnection);
+    connect(m_pAliasTreeView->itemDelegate(), &QAbstractItemDelegate::closeEditor, this,
+            &CKTFileManager::OnAliasTreeCloseEditor, Qt::UniqueConnection);
 }
 
 void CKTFileManager::HideTopLevelRows()

@@ -276,6 +276,37 @@ public:
     /** Sets the section alone, for the folder tree or the file list. */
     void SetFilenameMappingINISection(EKTFMPart part, const QString& section);
 
+    /**
+     * Loads the table of the alias tree, scans the folders of its top-level items and shows them expanded.
+     *
+     * @param strFile the name of an existing file, which is read as UTF-8, or else the table's text itself:
+     * an item a line, its depth by leading spaces, its columns (label, folder, whether the folder is scanned
+     *        and watched, allowed operations, INI section, host data) separated by tabs
+     * @return false for a file that cannot be read; tree and watches then stay as they were
+     */
+    bool PopulateAliasTable(const QString& strFile);
+
+    /**
+     * Brings the children of an alias tree item in step with the sub-folders of its folder. Linear in both.
+     *
+     * A sub-folder without an item gets one; hidden folders and links get none. An item whose label is no
+     * sub-folder's name is removed, but of two such items in a row only the first: the next scan removes the
+     * other. In an expanded branch new items are scanned and watched at once.
+     */
+    void ScanForAliasTreeDirectories(const QModelIndex& index);
+
+    /** Makes an item of the alias tree current. @return false for an invalid index */
+    bool SetCurrentAliasTreeSelection(const QModelIndex& index);
+
+    /**
+     * Finds the item that maps to a folder, in any letter case, and makes it current. Branches are expanded,
+     * and so scanned, along the search and stay so when it fails.
+     *
+     * @param start where to search; an invalid index stands for the first top-level item alone
+     * @return whether it was found. The last two arguments are accepted and passed over.
+     */
+    bool SetCurrentAliasTreeSelection(QString strPath, const QModelIndex& start, bool, bool);
+
     /** The point lies in @p widget's rectangle, edges included, whether or not the widget is seen. */
     bool IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const;
 
@@ -300,11 +331,21 @@ public Q_SLOTS:
     /** A folder of the tree was clicked or activated: it is shown in the file list. */
     void OnTreeClicked(const QModelIndex& index);
 
+    /** An item of the alias tree was clicked or activated: its folder is shown in the file list. */
+    void OnAliasTreeClicked(const QModelIndex& index);
+
+    /** An item of the alias tree was double-clicked: its branch is no longer watched while it may be renamed.
+     */
+    void OnAliasTreeDblClicked(const QModelIndex& index);
+
     /** Relays a changed selection of the file list to the host. */
     void OnListViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
 
     /** Clears the file list's selection and relays the tree's to the host. */
     void OnTreeViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
+
+    /** The alias tree's selection changed. No callback hears of it: hosts use the view's selection model. */
+    void OnAliasTreeViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected);
 
     /** Relays the list's new folder to the host. */
     void OnListViewRootPathChanged(const QString& newPath);
@@ -320,6 +361,18 @@ public Q_SLOTS:
 
     /** Relays a refused rename of the alias tree. */
     void OnAliasTreeRenameFileError(int error);
+
+    /** A watched folder changed: every alias tree item that maps to it is scanned again. */
+    void OnDirectoryChanged(const QString& path);
+
+    /** A branch of the alias tree was expanded: its children are scanned and watched. */
+    void OnAliasTreeExpand(const QModelIndex& index);
+
+    /** A branch of the alias tree was collapsed: what is below it is no longer watched. */
+    void OnAliasTreeCollapsed(const QModelIndex& index);
+
+    /** A rename in the alias tree has ended: the item is read again from the disk. */
+    void OnAliasTreeCloseEditor();
 
 Q_SIGNALS:
     /**
@@ -352,6 +405,7 @@ private:
     void ConnectViews();
     void ConnectSelections();
     void ConnectModels();
+    void ConnectAliasTree();
     void HideTopLevelRows();
 
     void RelayError(int pane, int error);
@@ -366,8 +420,20 @@ private:
     QModelIndex SetTreeRootPath(const QString& path);
     void ShowInList(const QString& path);
     void OpenFolder(const QString& path);
+    void ShowFolder(const QString& path);
     QAbstractItemView* ShownListView() const;
     void TellHostOfMenu(const QPoint& globalPos);
+
+    void AddPathForFileSystemWatch(const QModelIndex& index);
+    void RemovePathForFileSystemWatch(const QModelIndex& index);
+    void ClearPathesForFileSystemWatcher();
+    void Watch(const QModelIndexList& items);
+    void Unwatch(const QModelIndexList& items);
+    bool IsSeenElsewhere(const QModelIndex& item, const QModelIndexList& sameFolder) const;
+    QModelIndexList AliasChildren(const QModelIndex& index) const;
+    void AddScannedFolders(const QPersistentModelIndex& index, const QStringList& names);
+    void RemoveUnlistedFolders(const QPersistentModelIndex& index, const QStringList& names);
+    void ReadAgainFromParent(const QPersistentModelIndex& parent, const QString& path, bool expanded);
 
     QWidget* m_pMsgBoxParent = nullptr;
     QStackedWidget* m_pViewStack = nullptr;
@@ -388,7 +454,6 @@ private:
     CMySortFilterProxyModel* m_pProxy = nullptr;
     EKTFMIconSize m_eIconSize = FM_ICON_SMALL;
     QMenu* m_pContextMenu = nullptr;
-    QStringList m_watchedPaths;
     QSize m_gridMargin;
     QFileSystemWatcher* m_pWatcher = nullptr;
     EKTFMPart m_eLastMenuFrom = FM_PART_LIST;
