@@ -117,24 +117,27 @@ void WhenAMenuOpens(const std::function<void(QMenu*)>& work)
     poll->start(5);
 }
 
+/** Clicks a button that may be deleted by it: the release goes to what is left then. */
+void ClickAt(CTitleBarButton* button, const QPoint& position)
+{
+    const QPointer<CTitleBarButton> alive(button);
+    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, position);
+    if (alive)
+        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, position);
+}
+
 /** Opens the menu of a button by a click on its arrow; returns when the menu is closed. */
-void ClickArrow(QPointer<CTitleBarButton> button)
+void ClickArrow(CTitleBarButton* button)
 {
     constexpr int fromTheEdge = 4;
     const int x = button->isRightToLeft() ? fromTheEdge : button->width() - fromTheEdge;
-    const QPoint arrow(x, button->height() / 2);
-    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, arrow);
-    if (button)
-        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, arrow);
+    ClickAt(button, QPoint(x, button->height() / 2));
 }
 
-void ClickName(QPointer<CTitleBarButton> button)
+void ClickName(CTitleBarButton* button)
 {
     constexpr int fromTheEdge = 6;
-    const QPoint name(fromTheEdge, button->height() / 2);
-    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, name);
-    if (button)
-        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, name);
+    ClickAt(button, QPoint(fromTheEdge, button->height() / 2));
 }
 
 QStringList TextsOf(const QMenu* menu)
