@@ -50,7 +50,7 @@ class KTFM_EXPORT CTitleBarButton : public QToolButton
      * How opaque the button is painted: from 0 (invisible) to 255 (the default). Any number is kept as it
      * was set; one beyond the range is painted as its nearest end.
      */
-    Q_PROPERTY(int Opacity READ Opacity WRITE setOpacity)
+    Q_PROPERTY(int Opacity READ Opacity WRITE setOpacity) // clazy:exclude=qproperty-without-notify
 
 public:
     /**

@@ -117,30 +117,34 @@ void WhenAMenuOpens(const std::function<void(QMenu*)>& work)
     poll->start(5);
 }
 
+/** Clicks a button that may be deleted by it: the release goes to what is left then. */
+void ClickAt(CTitleBarButton* button, const QPoint& position)
+{
+    const QPointer<CTitleBarButton> alive(button);
+    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, position);
+    if (alive)
+        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, position);
+}
+
 /** Opens the menu of a button by a click on its arrow; returns when the menu is closed. */
-void ClickArrow(QPointer<CTitleBarButton> button)
+void ClickArrow(CTitleBarButton* button)
 {
     constexpr int fromTheEdge = 4;
     const int x = button->isRightToLeft() ? fromTheEdge : button->width() - fromTheEdge;
-    const QPoint arrow(x, button->height() / 2);
-    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, arrow);
-    if (button)
-        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, arrow);
+    ClickAt(button, QPoint(x, button->height() / 2));
 }
 
-void ClickName(QPointer<CTitleBarButton> button)
+void ClickName(CTitleBarButton* button)
 {
     constexpr int fromTheEdge = 6;
-    const QPoint name(fromTheEdge, button->height() / 2);
-    QTest::mousePress(button, Qt::LeftButton, Qt::NoModifier, name);
-    if (button)
-        QTest::mouseRelease(button, Qt::LeftButton, Qt::NoModifier, name);
+    ClickAt(button, QPoint(fromTheEdge, button->height() / 2));
 }
 
 QStringList TextsOf(const QMenu* menu)
 {
     QStringList texts;
-    for (const QAction* action : menu->actions())
+    const QList<QAction*> actions = menu->actions();
+    for (const QAction* action : actions)
         texts << action->text();
     texts.sort();
     return texts;
@@ -148,7 +152,8 @@ QStringList TextsOf(const QMenu* menu)
 
 void ClickEntry(QMenu* menu, const QString& text)
 {
-    for (QAction* action : menu->actions()) {
+    const QList<QAction*> actions = menu->actions();
+    for (QAction* action : actions) {
         if (action->text() == text) {
             QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(action).center());
             return;
@@ -171,7 +176,7 @@ void DeleteWhatIsDue()
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-int DoneCode(const KT::Result& result)
+int CodeOf(const KT::Result& result)
 {
     return result.code;
 }
@@ -211,7 +216,7 @@ private Q_SLOTS:
     void folderWithoutIndexKeepsItsOwnName();
     void ampersandsAreShown();
     void shellLinkStandsForItsTarget();
-    void namelessShellLinkTargetIsAskedFor();
+    void hostIsAskedForTheTargetOfAShellLink();
     void realFolderNamedLikeALinkIsAFolder();
     void danglingLinkIsLeftOut();
     void circleOfLinksIsHarmless();
@@ -277,7 +282,7 @@ void tst_TitleBarView::anotherInitialisationKeepsTheButtons()
     Fixture f;
     f.Show(f.folder.Path());
     const int count = f.bar->GetToolButtonSize();
-    QCOMPARE(DoneCode(f.bar->IniCrumBarWidget()), 0);
+    QCOMPARE(CodeOf(f.bar->IniCrumBarWidget()), 0);
     QCOMPARE(f.bar->GetToolButtonSize(), count);
     QCOMPARE(f.bar->layout()->count(), count + 1);
     QCOMPARE(f.bar->layout()->itemAt(0)->widget(), f.Root());
@@ -338,11 +343,11 @@ void tst_TitleBarView::buttonStandsForItsFolder()
 void tst_TitleBarView::shownIndexAgainKeepsTheButtons()
 {
     Fixture f;
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(QModelIndex(), false)), 1);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(QModelIndex(), false)), 1);
     const QModelIndex index = f.host.IndexOf(f.folder.Path());
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(index, false)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(index, false)), 0);
     const CTitleBarButton* button = f.Current();
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(index, false)), 1);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(index, false)), 1);
     DeleteWhatIsDue();
     QCOMPARE(f.Current(), button);
     QVERIFY(f.bar->layout()->indexOf(f.Current()) >= 0);
@@ -355,7 +360,7 @@ void tst_TitleBarView::forceRebuildsTheButtons()
     f.bar->UpdateCrumBar(index, false);
     const QPointer<CTitleBarButton> old = f.Current();
     const int count = f.bar->GetToolButtonSize();
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(index, true)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(index, true)), 0);
     QVERIFY(f.Current() != old);
     QCOMPARE(f.bar->GetToolButtonSize(), count);
     DeleteWhatIsDue();
@@ -366,10 +371,10 @@ void tst_TitleBarView::invalidIndexEmptiesTheBar()
 {
     Fixture f;
     f.Show(f.folder.Path());
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(QModelIndex(), false)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(QModelIndex(), false)), 0);
     QCOMPARE(f.bar->GetToolButtonSize(), 0);
     QCOMPARE(f.bar->layout()->count(), 1);
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(QModelIndex(), true)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(QModelIndex(), true)), 0);
     DeleteWhatIsDue();
     QVERIFY(f.bar->findChildren<CTitleBarButton*>().isEmpty());
 }
@@ -389,17 +394,17 @@ void tst_TitleBarView::oldButtonsDisappearAtOnceAndAreDeletedLater()
 void tst_TitleBarView::clearingKeepsTheCount()
 {
     Fixture f;
-    QCOMPARE(DoneCode(f.bar->ClearHBoxLayout()), 0);
+    QCOMPARE(CodeOf(f.bar->ClearHBoxLayout()), 0);
     f.Show(f.folder.Path());
     const int count = f.bar->GetToolButtonSize();
-    QCOMPARE(DoneCode(f.bar->ClearHBoxLayout()), 0);
+    QCOMPARE(CodeOf(f.bar->ClearHBoxLayout()), 0);
     QCOMPARE(f.bar->GetToolButtonSize(), count);
     QCOMPARE(f.bar->layout()->count(), 1);
     QVERIFY(f.Current());
     DeleteWhatIsDue();
     QVERIFY(!f.Current());
-    QCOMPARE(DoneCode(f.bar->ClearHBoxLayout()), 0);
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(f.host.IndexOf(f.folder.Path()), true)), 0);
+    QCOMPARE(CodeOf(f.bar->ClearHBoxLayout()), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(f.host.IndexOf(f.folder.Path()), true)), 0);
     QCOMPARE(f.bar->GetToolButtonSize(), count);
 }
 
@@ -410,9 +415,9 @@ void tst_TitleBarView::buttonDeletedByTheHostIsPassedOver()
     const int count = f.bar->GetToolButtonSize();
     delete f.bar->GetToolButton(1);
     QCOMPARE(f.bar->GetToolButtonSize(), count);
-    QCOMPARE(DoneCode(f.bar->IniCrumBarWidget()), 0);
+    QCOMPARE(CodeOf(f.bar->IniCrumBarWidget()), 0);
     QCOMPARE(f.bar->layout()->count(), count);
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(f.host.IndexOf(f.folder.Path()), true)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(f.host.IndexOf(f.folder.Path()), true)), 0);
     QCOMPARE(f.bar->layout()->count(), count + 1);
 }
 
@@ -606,7 +611,7 @@ void tst_TitleBarView::entriesAreNamedByTheHost()
     const QString path = f.folder.Folder(QStringLiteral("one"));
     f.host.names.insert(path, QStringLiteral("First"));
     f.Show(f.folder.Path());
-    QCOMPARE(DoneCode(f.Current()->CreateMenu()), 0);
+    QCOMPARE(CodeOf(f.Current()->CreateMenu()), 0);
     QCOMPARE(f.host.asked, QStringList{path});
     QCOMPARE(f.Current()->ActionSize(), std::size_t(1));
     const CAction* action = f.Current()->GetAction(0);
@@ -662,7 +667,7 @@ void tst_TitleBarView::shellLinkStandsForItsTarget()
     QCOMPARE(ActionNamed(f.Current(), QStringLiteral("Home"))->m_strPath, target);
 }
 
-void tst_TitleBarView::namelessShellLinkTargetIsAskedFor()
+void tst_TitleBarView::hostIsAskedForTheTargetOfAShellLink()
 {
     Fixture f;
     const QString target = f.folder.Folder(QStringLiteral("elsewhere/target"));
@@ -752,7 +757,7 @@ void tst_TitleBarView::pushActionAppendsToActionsOnly()
     f.Show(f.folder.Path());
     CAction action;
     QCOMPARE(action.m_strPath, QString());
-    QCOMPARE(DoneCode(f.Current()->PushAction(&action)), 0);
+    QCOMPARE(CodeOf(f.Current()->PushAction(&action)), 0);
     QCOMPARE(f.Current()->ActionSize(), std::size_t(1));
     QCOMPARE(f.Current()->GetAction(0), &action);
     QVERIFY(f.Current()->menu()->isEmpty());
@@ -790,16 +795,21 @@ void tst_TitleBarView::tenThousandFoldersFitAMenu()
 {
     Fixture f;
     constexpr int count = 10000;
-    const QDir place(f.folder.Folder(QStringLiteral("many")));
+    const QString place = f.folder.Folder(QStringLiteral("many"));
+    // Links to folders: some file systems take half a minute to remove as many folders.
     for (int i = 0; i < count; ++i)
-        QVERIFY(place.mkdir(QString::number(i)));
+        f.folder.Link(place, QStringLiteral("many/%1.lnk").arg(i));
     f.host.knowsIndexes = false;
-    f.Show(place.path());
-    WhenAMenuOpens([](QMenu* menu) { QTest::keyClick(menu, Qt::Key_Escape); });
+    f.Show(place);
+    int shown = 0;
+    WhenAMenuOpens([&shown](QMenu* menu) {
+        shown = menu->actions().size();
+        QTest::keyClick(menu, Qt::Key_Escape);
+    });
     ClickArrow(f.Current());
-    f.Current()->CreateMenu();
+    QCOMPARE(shown, count);
     QCOMPARE(f.Current()->ActionSize(), std::size_t(count));
-    QCOMPARE(f.Current()->menu()->actions().size(), count);
+    QVERIFY(ActionNamed(f.Current(), QString::number(count - 1)));
 }
 
 void tst_TitleBarView::opacityIsStoredAndPainted()
@@ -862,7 +872,7 @@ void tst_TitleBarView::barWithoutHostBuildsBlankButtons()
     CTitleBarView bar(&window, nullptr);
     QFileSystemModel model;
     const TestFolder folder;
-    QCOMPARE(DoneCode(bar.UpdateCrumBar(model.index(folder.Path()), false)), 0);
+    QCOMPARE(CodeOf(bar.UpdateCrumBar(model.index(folder.Path()), false)), 0);
     QVERIFY(bar.GetToolButtonSize() > 1);
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
@@ -871,7 +881,7 @@ void tst_TitleBarView::barWithoutHostBuildsBlankButtons()
     QCOMPARE(button->toolTip(), QString());
     QCOMPARE(button->GetCurrentPath(), QString());
     button->click();
-    QCOMPARE(DoneCode(button->CreateMenu()), 0);
+    QCOMPARE(CodeOf(button->CreateMenu()), 0);
     QCOMPARE(button->ActionSize(), std::size_t(0));
 }
 
@@ -885,7 +895,7 @@ void tst_TitleBarView::buttonWithoutBarHasNoFolder()
     QCOMPARE(button.GetModelIndex(), index);
     QCOMPARE(button.text(), QString());
     QCOMPARE(button.GetCurrentPath(), QString());
-    QCOMPARE(DoneCode(button.CreateMenu()), 0);
+    QCOMPARE(CodeOf(button.CreateMenu()), 0);
     QCOMPARE(button.ActionSize(), std::size_t(0));
 }
 
@@ -1055,11 +1065,11 @@ void tst_TitleBarView::rebuildFromAQuestionIsRefused()
     const QModelIndex other = f.host.IndexOf(f.folder.Path());
     int refused = 0;
     f.host.onQuestion = [&] { refused += f.bar->UpdateCrumBar(other, true).code; };
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(index, false)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(index, false)), 0);
     QCOMPARE(refused, f.bar->GetToolButtonSize());
     QCOMPARE(f.Current()->GetModelIndex(), index);
     f.host.onQuestion = nullptr;
-    QCOMPARE(DoneCode(f.bar->UpdateCrumBar(other, false)), 0);
+    QCOMPARE(CodeOf(f.bar->UpdateCrumBar(other, false)), 0);
 }
 
 void tst_TitleBarView::rebuildFromAMenuQuestionIsCarriedOut()
@@ -1075,7 +1085,7 @@ void tst_TitleBarView::rebuildFromAMenuQuestionIsCarriedOut()
         f.bar->UpdateCrumBar(index, true);
         DeleteWhatIsDue();
     };
-    QCOMPARE(DoneCode(f.Current()->CreateMenu()), 0);
+    QCOMPARE(CodeOf(f.Current()->CreateMenu()), 0);
     QVERIFY(!old);
     QCOMPARE(f.host.asked.size(), 2);
     QCOMPARE(f.Current()->GetModelIndex(), index);
