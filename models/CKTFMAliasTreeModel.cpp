@@ -318,6 +318,8 @@ bool CKTFMAliasTreeModel::SetFileMappingIni(QString path)
         return false;
     if (path != m_strMappingFile) {
         m_strMappingFile = path;
+        // A reader that finds no file keeps what it had; the labels of the former file must not stay.
+        m_pNameProfile = std::make_unique<KT::CProfile>();
         m_pNameProfile->Load(path.toStdWString(), true);
     }
     m_eShowStringMode = FM_SHOW_STRING_INI;
