@@ -52,7 +52,7 @@ void ScanFolder(benchmark::State& state)
 {
     const int count = static_cast<int>(state.range(0));
     const QString folder = FolderWith(count);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CKTFMAliasTreeModel model;
         model.PopulateAliasTree(CategoryFor(folder));
         model.ScanAliasTreeDirectory(model.index(0, 0));
@@ -68,7 +68,7 @@ void RescanFolder(benchmark::State& state)
     CKTFMAliasTreeModel model;
     model.PopulateAliasTree(CategoryFor(FolderWith(count)));
     model.ScanAliasTreeDirectory(model.index(0, 0));
-    for (auto _ : state)
+    while (state.KeepRunning())
         model.ScanAliasTreeDirectory(model.index(0, 0));
     state.SetComplexityN(count);
 }
@@ -79,7 +79,7 @@ void ScanThatRemovesAll(benchmark::State& state)
     const QTemporaryDir empty;
     const QString table =
         CategoryFor(empty.path()) + QStringLiteral("  gone\t/folder/gone\ttrue\n").repeated(count);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CKTFMAliasTreeModel model;
         model.PopulateAliasTree(table);
         model.ScanAliasTreeDirectory(model.index(0, 0));
@@ -103,7 +103,7 @@ void PlainListing(benchmark::State& state)
 {
     const int count = static_cast<int>(state.range(0));
     const QString folder = FolderWith(count);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         QStandardItemModel model;
         auto* top = new QStandardItem(QStringLiteral("Category"));
         model.appendRow(top);
@@ -121,7 +121,7 @@ void PlainListing(benchmark::State& state)
 void BuildTable(benchmark::State& state)
 {
     const QString table = TableOf(static_cast<int>(state.range(0)));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CKTFMAliasTreeModel model;
         model.PopulateAliasTree(table);
         benchmark::DoNotOptimize(model.rowCount());
@@ -144,7 +144,7 @@ void WalkSiblings(benchmark::State& state)
     CKTFMAliasTreeModel model;
     model.PopulateAliasTree(TableOfSiblings());
     model.removeRow(0, model.index(0, 0));
-    for (auto _ : state)
+    while (state.KeepRunning())
         WalkRows(model, model.index(0, 0));
 }
 
@@ -155,7 +155,7 @@ void WalkStandardSiblings(benchmark::State& state)
     model.appendRow(top);
     for (int i = 1; i < Siblings; ++i)
         top->appendRow(new QStandardItem(QStringLiteral("child")));
-    for (auto _ : state)
+    while (state.KeepRunning())
         WalkRows(model, model.index(0, 0));
 }
 
@@ -171,7 +171,7 @@ void ParentsAfterInsertion(benchmark::State& state)
     QModelIndexList leaves;
     for (int row = 1; row < Siblings; ++row)
         leaves.append(model.index(0, 0, model.index(row, 0, top)));
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         model.insertRows(0, 1, top);
         for (const QModelIndex& leaf : qAsConst(leaves))
             benchmark::DoNotOptimize(model.parent(leaf).row());
@@ -182,7 +182,7 @@ void FindFolder(benchmark::State& state)
 {
     CKTFMAliasTreeModel model;
     model.PopulateAliasTree(TableOf(200000));
-    for (auto _ : state)
+    while (state.KeepRunning())
         benchmark::DoNotOptimize(model.IndexWithFilePath(QStringLiteral("/some/folder")));
 }
 
@@ -191,7 +191,7 @@ void FindFolderByMatch(benchmark::State& state)
     CKTFMAliasTreeModel model;
     model.PopulateAliasTree(TableOf(200000));
     const Qt::MatchFlags flags = Qt::MatchFixedString | Qt::MatchCaseSensitive | Qt::MatchRecursive;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         benchmark::DoNotOptimize(
             model.match(model.index(0, 1), Qt::DisplayRole, QStringLiteral("/some/folder"), -1, flags));
     }
