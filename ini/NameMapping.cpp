@@ -10,6 +10,8 @@ bool SetFile(KT::CProfile& profile, QString& keptPath, const QString& path)
         return false;
     if (path != keptPath) {
         keptPath = path;
+        // A profile that finds no file keeps what it had; the names of the former file must not stay.
+        profile.Load(path.toStdWString(), false);
         profile.Load(path.toStdWString(), true);
     }
     return true;

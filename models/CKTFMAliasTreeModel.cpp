@@ -1,5 +1,6 @@
 #include <KTFileManager2QU/CKTFMAliasTreeModel.h>
 
+#include "ini/NameMapping.h"
 #include "models/AliasFolder.h"
 #include "models/AliasTreeLog.h"
 #include "models/HostImageCache.h"
@@ -314,12 +315,8 @@ void CKTFMAliasTreeModel::SetInterface(CKTFMAliasTreeModelInterface* callbacks)
 
 bool CKTFMAliasTreeModel::SetFileMappingIni(QString path)
 {
-    if (path.isNull())
+    if (!NameMapping::SetFile(*m_pNameProfile, m_strMappingFile, path))
         return false;
-    if (path != m_strMappingFile) {
-        m_strMappingFile = path;
-        m_pNameProfile->Load(path.toStdWString(), true);
-    }
     m_eShowStringMode = FM_SHOW_STRING_INI;
     return true;
 }
@@ -383,9 +380,9 @@ QString CKTFMAliasTreeModel::HostLabel(const QModelIndex& index) const
 
 QString CKTFMAliasTreeModel::GetFolderNameWithINI(QString name, QString section) const
 {
-    std::wstring value;
-    if (m_pNameProfile->GetValue(value, section.toStdWString(), name.toStdWString()).code == KT::ResultDone)
-        return QString::fromStdWString(value);
+    QString text;
+    if (NameMapping::Find(*m_pNameProfile, section, name, text))
+        return text;
     return m_mapTranslate.value(name, name);
 }
 

@@ -170,6 +170,7 @@ private Q_SLOTS:
     void searchByFolderIsCaseSensitiveAndWhole();
     void searchByFolderInAnEmptyModelFindsNothing();
     void searchInChildrenEqualsMatch();
+    void veryDeepTreesAreSearchedAndUnwatched();
 
     void scanAddsFoldersAndShortcuts();
     void scanTakesUpperCaseShortcutsOnlyUnderTheirTargetsName();
@@ -219,6 +220,7 @@ private Q_SLOTS:
     void translationIsCaseSensitive();
     void mappingFileIsReadOnceForOnePath();
     void missingMappingFileStillSwitchesTheMode();
+    void missingMappingFileDropsTheFormerOne();
     void mappingSectionIsNeverTaken();
 
     void dragsCarryFoldersAsUrls();
@@ -405,6 +407,26 @@ void tst_AliasTreeModel::searchInChildrenEqualsMatch()
         }
     }
     QVERIFY(found > 0);
+}
+
+void tst_AliasTreeModel::veryDeepTreesAreSearchedAndUnwatched()
+{
+    constexpr int depth = 200000;
+    const TestFolder folder;
+    QFileSystemWatcher watcher;
+    watcher.addPath(folder.Path());
+    CKTFMAliasTreeModel model; // the tester would look at every level
+    model.SetFileSystemWatcher(&watcher);
+    model.PopulateAliasTree(QStringLiteral("Top\t/top\ttrue\t0\ts\tc"));
+    QModelIndex index = model.index(0, 0);
+    for (int i = 0; i < depth; ++i)
+        index = model.AddAliasItem(index, QString(), QStringLiteral("/x"), QString(), true, FM_OP_RENAME, 0);
+    model.AddAliasItem(index, QString(), folder.Path(), QString(), true, FM_OP_RENAME, 0);
+    const QList<QModelIndex> found = model.IndexWithFilePath(folder.Path());
+    QCOMPARE(found.size(), 1);
+    QCOMPARE(found.constFirst().parent(), index);
+    model.RemovePathFromFileSystemWatcher(model.index(0, 0));
+    QVERIFY(watcher.directories().isEmpty());
 }
 
 void tst_AliasTreeModel::scanAddsFoldersAndShortcuts()
@@ -1019,6 +1041,16 @@ void tst_AliasTreeModel::missingMappingFileStillSwitchesTheMode()
     QCOMPARE(model.Top().data().toString(), QStringLiteral("translated"));
 }
 
+void tst_AliasTreeModel::missingMappingFileDropsTheFormerOne()
+{
+    const TestFolder folder;
+    AliasTree model(QStringLiteral("/folder"));
+    QVERIFY(model.SetFileMappingIni(folder.File(QStringLiteral("names.ini"), "Category=named\n")));
+    QCOMPARE(model.Top().data().toString(), QStringLiteral("named"));
+    QVERIFY(model.SetFileMappingIni(folder.Path(QStringLiteral("gone.ini"))));
+    QCOMPARE(model.Top().data().toString(), QStringLiteral("Category"));
+}
+
 void tst_AliasTreeModel::mappingSectionIsNeverTaken()
 {
     AliasTree model;
@@ -1122,7 +1154,8 @@ void tst_AliasTreeModel::renameToTheSameOrNoNameIsTrueWithoutChange()
 void tst_AliasTreeModel::renameToABadNameReportsLater_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QChar c : QStringLiteral("\\/:*?|\"<>"))
+    const QString forbidden = QStringLiteral("\\/:*?|\"<>");
+    for (const QChar c : forbidden)
         QTest::addRow("U+%04X", c.unicode()) << QStringLiteral("a") + c + QStringLiteral("b");
     QTest::newRow("empty base name") << QStringLiteral(".hidden");
     QTest::newRow("this folder") << QStringLiteral(".");
