@@ -104,6 +104,9 @@ void CKTFMListModel::sort(int column, Qt::SortOrder order)
     if (m_bSortedByProxy && m_pSortedListing && *m_pSortedListing == listing)
         return;
     m_pSortedListing = std::make_unique<Listing>(listing);
+    // Where the root folder's node is missing, the base would insert it in the middle of its change of layout,
+    // and a proxy loses what was made to point at the new rows. It is made here, before that.
+    index(rootPath());
     QFileSystemModel::sort(column, order);
 }
 
