@@ -660,7 +660,10 @@ void tst_Views::droppedFilesArriveAsACopy()
             QTest::mouseRelease(window, Qt::LeftButton, Qt::NoModifier, to);
     });
     mover.start(50);
+    // The first move leaves the item, the second starts the drag, which returns when the button is released.
     QTest::mouseMove(window, from + QPoint(40, 40));
+    QTest::mouseMove(window, from + QPoint(41, 41));
+    mover.stop();
     QTRY_VERIFY(!target.urls.isEmpty());
     QCOMPARE(target.urls, QList<QUrl>{QUrl::fromLocalFile(files.folder.Path(files.names.first()))});
     QCOMPARE(target.possible, Qt::DropActions(Qt::CopyAction));
