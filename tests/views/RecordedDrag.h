@@ -29,7 +29,10 @@ public:
 };
 
 /** In this format Qt's own models pass every cell with its data. */
-constexpr QLatin1String ItemsFormat("application/x-qabstractitemmodeldatalist");
+inline QString ItemsFormat()
+{
+    return QStringLiteral("application/x-qabstractitemmodeldatalist");
+}
 
 /** What a drag was like while it was going on. */
 struct Drag
@@ -55,7 +58,7 @@ inline void Record(const QObject* view, Drag* record)
     record->source = drag->source();
     record->urls = drag->mimeData()->urls();
     record->formats = drag->mimeData()->formats();
-    record->items = drag->mimeData()->data(ItemsFormat);
+    record->items = drag->mimeData()->data(ItemsFormat());
     record->pixmap = drag->pixmap();
     record->hotSpot = drag->hotSpot();
     record->supported = drag->supportedActions();

@@ -1,3 +1,6 @@
+#include <KTFileManager2QU/CKTFMAliasTreeModel.h>
+#include <KTFileManager2QU/CKTFMListModel.h>
+#include <KTFileManager2QU/CKTFMTreeModel.h>
 #include <KTFileManager2QU/CKTFileManager.h>
 
 #include "tests/support/TestMain.h"
@@ -38,7 +41,10 @@ void tst_DetailView::init()
 void tst_DetailView::cleanup()
 {
     m_view.reset();
+    const QVector<QObject*> models = {m_pane->GetListModel(), m_pane->GetTreeModel(),
+                                      m_pane->GetAliasTreeModel()};
     m_pane.reset();
+    qDeleteAll(models);
 }
 
 void tst_DetailView::offersCopyOnly()
@@ -79,7 +85,7 @@ void tst_DetailView::dragsEachRowOnceWithAllItsCells()
     const QModelIndexList cells = m_view->selectionModel()->selectedIndexes();
     QCOMPARE(cells.size(), 12);
     const std::unique_ptr<QMimeData> all(m_model->mimeData(cells));
-    QCOMPARE(drag.items, all->data(ItemsFormat));
+    QCOMPARE(drag.items, all->data(ItemsFormat()));
 }
 
 void tst_DetailView::dragOfNothingIsStartedWithAnEmptyImage()

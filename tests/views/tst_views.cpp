@@ -464,7 +464,7 @@ void tst_Views::imageOfATreeHasEachRowOnce()
     QCOMPARE(view.selectionModel()->selectedIndexes().size(), 12);
     const Drag drag = Dragged(&view);
     const std::unique_ptr<QMimeData> all(model->mimeData(view.selectionModel()->selectedIndexes()));
-    QCOMPARE(drag.items, all->data(ItemsFormat));
+    QCOMPARE(drag.items, all->data(ItemsFormat()));
     QRect first;
     for (int row = 0; row < 3; ++row)
         first |= view.visualRect(model->index(row, 0));
