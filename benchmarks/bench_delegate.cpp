@@ -105,7 +105,7 @@ void Scroll(benchmark::State& state, Grid* grid)
     QScrollBar* bar = view.verticalScrollBar();
     const int step = view.gridSize().height();
     bar->setValue(0);
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         bar->setValue(bar->value() >= bar->maximum() ? 0 : bar->value() + step);
         view.viewport()->render(&screen);
     }

@@ -94,7 +94,7 @@ struct Files
 {
     Files()
     {
-        for (const QString& name : names)
+        for (const QString& name : qAsConst(names))
             folder.File(name);
         model.setRootPath(folder.Path());
     }
