@@ -51,18 +51,14 @@ void NameLayouts::Draw(QPainter* painter, const QRect& area, const QString& name
                      device->logicalDpiY(),
                      device->devicePixelRatioF(),
                      painter->layoutDirection()};
-    LayoutFor(key).Draw(painter, area);
-}
-
-const WrappedText& NameLayouts::LayoutFor(const Key& key)
-{
-    if (const WrappedText* known = m_layouts.object(key))
-        return *known;
-    const QString fitted = Fitted(key.name, key.font, key.width, key.direction);
+    if (const WrappedText* known = m_layouts.object(key)) {
+        known->Draw(painter, area);
+        return;
+    }
+    const QString fitted = Fitted(name, key.font, key.width, key.direction);
     auto layout = std::make_unique<WrappedText>(fitted, key.font, key.width, key.direction);
-    const WrappedText& made = *layout;
+    layout->Draw(painter, area);
     m_layouts.insert(key, layout.release());
-    return made;
 }
 
 QString NameLayouts::Fitted(const QString& name, const QFont& font, int width, Qt::LayoutDirection direction)

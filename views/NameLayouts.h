@@ -55,8 +55,6 @@ private:
         return qHash(key.name, seed) ^ static_cast<uint>(key.width);
     }
 
-    const WrappedText& LayoutFor(const Key& key);
-
     QCache<Key, WrappedText> m_layouts;
 };
 

@@ -935,7 +935,8 @@ static QStringList RefusalsOf(TextGrid* grid, const QString& text)
 void tst_Delegate::nameWithAForbiddenCharacterIsRefused_data()
 {
     QTest::addColumn<QString>("name");
-    for (const QChar c : QStringLiteral("\\/:*?|\"<>")) {
+    const QString forbidden = QStringLiteral("\\/:*?|\"<>");
+    for (const QChar c : forbidden) {
         QTest::addRow("only %c", c.toLatin1()) << QString(c);
         QTest::addRow("%c within blanks", c.toLatin1()) << QStringLiteral("  a%1b  ").arg(c);
         QTest::addRow("%c behind the last dot", c.toLatin1()) << QStringLiteral("a.b%1").arg(c);
