@@ -3,6 +3,7 @@
 #include <KTFileManager2QU/KTFMInterfaces.h>
 
 #include "ini/NameMapping.h"
+#include "models/ChildNodes.h"
 #include "models/FileSystemItem.h"
 #include "models/HostImageCache.h"
 #include "models/LazyIconProvider.h"
@@ -20,6 +21,9 @@ constexpr unsigned int DefaultRowHeight = 30;
 
 /** The width that a row asks for, in pixels; a view's columns and grid decide what it gets. */
 constexpr int RowWidth = 20;
+
+/** The number of the base's columns. */
+constexpr int ColumnCount = 4;
 
 /** The base's column of file sizes. */
 constexpr int SizeColumn = 1;
@@ -54,7 +58,8 @@ CKTFMListModel::CKTFMListModel(QObject* parent)
     : QFileSystemModel(parent),
       m_nRowHeight(DefaultRowHeight),
       m_pImages(std::make_unique<HostImageCache>()),
-      m_pIconProvider(std::make_unique<LazyIconProvider>())
+      m_pIconProvider(std::make_unique<LazyIconProvider>()),
+      m_pChildNodes(std::make_unique<ChildNodes>(*this))
 {
     setIconProvider(m_pIconProvider.get());
     setFilter(QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot);
@@ -72,6 +77,16 @@ bool CKTFMListModel::event(QEvent* event)
         return QFileSystemModel::event(event);
     Q_EMIT RenameFileError(code);
     return true;
+}
+
+QModelIndex CKTFMListModel::index(int row, int column, const QModelIndex& parent) const
+{
+    void* node = m_pChildNodes->At(row, parent);
+    if (node && column >= 0 && column < ColumnCount)
+        return createIndex(row, column, node);
+    const QModelIndex child = QFileSystemModel::index(row, column, parent);
+    m_pChildNodes->Remember(child, parent);
+    return child;
 }
 
 int CKTFMListModel::columnCount(const QModelIndex& parent) const
@@ -104,8 +119,8 @@ void CKTFMListModel::sort(int column, Qt::SortOrder order)
     if (m_bSortedByProxy && m_pSortedListing && *m_pSortedListing == listing)
         return;
     m_pSortedListing = std::make_unique<Listing>(listing);
-    // Where the root folder's node is missing, the base would insert it in the middle of its change of layout,
-    // and a proxy loses what was made to point at the new rows. It is made here, before that.
+    // Where the root folder's node is missing, the base would insert it in the middle of its change of
+    // layout, and a proxy loses what was made to point at the new rows. It is made here, before that.
     index(rootPath());
     QFileSystemModel::sort(column, order);
 }

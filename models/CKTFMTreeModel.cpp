@@ -40,6 +40,17 @@ bool CKTFMTreeModel::event(QEvent* event)
     return true;
 }
 
+bool CKTFMTreeModel::canFetchMore(const QModelIndex& parent) const
+{
+    return m_bListsFolders && QFileSystemModel::canFetchMore(parent);
+}
+
+void CKTFMTreeModel::fetchMore(const QModelIndex& parent)
+{
+    if (m_bListsFolders)
+        QFileSystemModel::fetchMore(parent);
+}
+
 int CKTFMTreeModel::columnCount(const QModelIndex& parent) const
 {
     return QFileSystemModel::columnCount(parent);
@@ -186,6 +197,16 @@ void CKTFMTreeModel::SetRenamable(bool on)
     m_bFolderTipsMapping = false;
     if (m_eShowStringMode == FM_SHOW_STRING_INI)
         m_eShowStringMode = FM_SHOW_STRING_BASE_NAME;
+}
+
+void CKTFMTreeModel::SetListsFolders(bool on)
+{
+    m_bListsFolders = on;
+    if (!FileSystemItem::HasRootPath(*this))
+        return;
+    const QModelIndex root = index(rootPath());
+    if (canFetchMore(root))
+        fetchMore(root);
 }
 
 bool CKTFMTreeModel::SetFolderNameMappingFile(QString path)

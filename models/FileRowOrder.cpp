@@ -1,10 +1,14 @@
 #include "models/FileRowOrder.h"
 
+#include "models/CollationKey.h"
+
 #include <QDateTime>
 #include <QFileSystemModel>
 #include <QSortFilterProxyModel>
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace {
 
@@ -20,7 +24,29 @@ enum Column : int
 /** The number of rows from which on sorting everything once is cheaper than placing each row by itself. */
 constexpr int BatchSize = 32;
 
+QString TextOf(const QModelIndex& index)
+{
+    return index.data(Qt::DisplayRole).toString();
+}
+
 } // namespace
+
+/** Gives each row the place of its text among all; equal texts share one. */
+void FileRowOrder::RankTexts(std::vector<Row>& rows)
+{
+    std::vector<std::pair<CollationKey, Row*>> sorted;
+    sorted.reserve(rows.size());
+    for (Row& row : rows)
+        sorted.emplace_back(CollationKey(row.text), &row);
+    std::sort(sorted.begin(), sorted.end(),
+              [](const auto& left, const auto& right) { return left.first.Compare(right.first) < 0; });
+    int rank = 0;
+    for (std::size_t i = 0; i < sorted.size(); ++i) {
+        if (i > 0 && sorted[i - 1].first.Compare(sorted[i].first) != 0)
+            ++rank;
+        sorted[i].second->rank = rank;
+    }
+}
 
 FileRowOrder::FileRowOrder(QSortFilterProxyModel& proxy) : m_proxy(proxy)
 {
@@ -49,14 +75,19 @@ void FileRowOrder::FollowSource(QAbstractItemModel* source)
 
 void FileRowOrder::BeginPass()
 {
+    if (m_bInPass)
+        return;
     m_bInPass = true;
-    m_rows.clear();
+    ++m_nPass;
+    m_pFolder = nullptr;
 }
 
 void FileRowOrder::EndPass()
 {
     m_bInPass = false;
-    m_rows = std::vector<Row>();
+    m_pFolder = nullptr;
+    for (auto folder = m_folders.begin(); folder != m_folders.end();)
+        folder = folder->second.pass == m_nPass ? std::next(folder) : m_folders.erase(folder);
 }
 
 void FileRowOrder::SortInsertedRowsLater(int first, int last)
@@ -66,6 +97,8 @@ void FileRowOrder::SortInsertedRowsLater(int first, int last)
         return;
     m_bSortPending = true;
     m_proxy.setDynamicSortFilter(false);
+    // The proxy sorts the new rows among themselves before it appends them; that belongs to the pass.
+    BeginPass();
 }
 
 void FileRowOrder::SortInsertedRows()
@@ -73,90 +106,139 @@ void FileRowOrder::SortInsertedRows()
     if (!m_bSortPending)
         return;
     m_bSortPending = false;
-    // Switching it on again sorts.
+    // Switching it on again sorts, and that ends the pass.
     m_proxy.setDynamicSortFilter(true);
 }
 
 bool FileRowOrder::LessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    Row leftScratch;
-    Row rightScratch;
-    Row& leftRow = RowOf(left, leftScratch);
-    Row& rightRow = RowOf(right, rightScratch);
+    if (m_bInPass && m_pSource)
+        EnterFolder(left);
     switch (left.column()) {
     case NameColumn:
-        if (leftRow.isFolder != rightRow.isFolder)
-            return leftRow.isFolder == (m_proxy.sortOrder() == Qt::AscendingOrder);
-        return TextIsAfter(left, leftRow, right, rightRow);
+        return NameIsLess(left, right);
     case SizeColumn:
-        return SizeIsLess(left, leftRow, right, rightRow);
+        return SizeIsLess(left, right);
     case TypeColumn:
-        return TypeIsLess(left, leftRow, right, rightRow);
+        return TypeIsLess(left, right);
     case DateColumn:
-        return ModifiedOf(left, leftRow) < ModifiedOf(right, rightRow);
+        return Modified(left) < Modified(right);
     default:
         return false;
     }
 }
 
-FileRowOrder::Row& FileRowOrder::RowOf(const QModelIndex& index, Row& scratch) const
+bool FileRowOrder::NameIsLess(const QModelIndex& left, const QModelIndex& right) const
 {
-    Row* row = &scratch;
-    if (m_bInPass) {
-        const auto number = static_cast<std::size_t>(index.row());
-        // Room for the whole folder at once: the row of the other side stays where it is.
-        if (number >= m_rows.size())
-            m_rows.resize(
-                std::max(number + 1, static_cast<std::size_t>(index.model()->rowCount(index.parent()))));
-        row = &m_rows[number];
-    }
-    // A pass may go through several folders, whose rows have the same numbers.
-    if (row->id != index.internalPointer() || !row->id) {
-        *row = Row();
-        row->id = index.internalPointer();
-        row->isFolder = m_pSource && m_pSource->isDir(index);
-    }
-    return *row;
+    const bool leftIsFolder = IsFolder(left);
+    if (leftIsFolder != IsFolder(right))
+        return leftIsFolder == (m_proxy.sortOrder() == Qt::AscendingOrder);
+    return CompareTexts(left, right) > 0;
 }
 
-const CollationKey& FileRowOrder::TextOf(const QModelIndex& index, Row& row) const
+bool FileRowOrder::SizeIsLess(const QModelIndex& left, const QModelIndex& right) const
 {
-    if (!row.text)
-        row.text = CollationKey(index.data(Qt::DisplayRole).toString());
-    return *row.text;
-}
-
-qint64 FileRowOrder::ModifiedOf(const QModelIndex& index, Row& row) const
-{
-    if (!row.modified)
-        row.modified = m_pSource ? m_pSource->lastModified(index).toMSecsSinceEpoch() : 0;
-    return *row.modified;
-}
-
-bool FileRowOrder::TextIsAfter(const QModelIndex& left, Row& leftRow, const QModelIndex& right,
-                               Row& rightRow) const
-{
-    return TextOf(left, leftRow).Compare(TextOf(right, rightRow)) > 0;
-}
-
-bool FileRowOrder::SizeIsLess(const QModelIndex& left, Row& leftRow, const QModelIndex& right,
-                              Row& rightRow) const
-{
-    if (leftRow.isFolder != rightRow.isFolder)
-        return leftRow.isFolder == (m_proxy.sortOrder() == Qt::DescendingOrder);
-    if (leftRow.isFolder || !m_pSource)
-        return TextIsAfter(left, leftRow, right, rightRow);
+    const bool leftIsFolder = IsFolder(left);
+    if (leftIsFolder != IsFolder(right))
+        return leftIsFolder == (m_proxy.sortOrder() == Qt::DescendingOrder);
+    if (leftIsFolder || !m_pSource)
+        return CompareTexts(left, right) > 0;
     const qint64 leftSize = m_pSource->size(left);
     const qint64 rightSize = m_pSource->size(right);
     // Sizes are first compared as 32-bit numbers: files that differ by a multiple of 4 GiB go by their text.
     if (static_cast<quint32>(leftSize) == static_cast<quint32>(rightSize))
-        return TextIsAfter(left, leftRow, right, rightRow);
+        return CompareTexts(left, right) > 0;
     return leftSize < rightSize;
 }
 
-bool FileRowOrder::TypeIsLess(const QModelIndex& left, Row& leftRow, const QModelIndex& right,
-                              Row& rightRow) const
+bool FileRowOrder::TypeIsLess(const QModelIndex& left, const QModelIndex& right) const
 {
-    const int order = TextOf(left, leftRow).Compare(TextOf(right, rightRow));
-    return order == 0 ? ModifiedOf(left, leftRow) < ModifiedOf(right, rightRow) : order > 0;
+    const int order = CompareTexts(left, right);
+    return order == 0 ? Modified(left) < Modified(right) : order > 0;
+}
+
+bool FileRowOrder::IsFolder(const QModelIndex& index) const
+{
+    if (const Row* row = Known(index))
+        return row->isFolder;
+    return m_pSource && m_pSource->isDir(index);
+}
+
+qint64 FileRowOrder::Modified(const QModelIndex& index) const
+{
+    if (const Row* row = Known(index)) {
+        if (!m_pFolder->hasTimes)
+            GatherTimes(index);
+        return row->modified;
+    }
+    return m_pSource ? m_pSource->lastModified(index).toMSecsSinceEpoch() : 0;
+}
+
+int FileRowOrder::CompareTexts(const QModelIndex& left, const QModelIndex& right) const
+{
+    const Row* leftRow = Known(left);
+    const Row* rightRow = Known(right);
+    if (leftRow && rightRow) {
+        if (!m_pFolder->hasTexts)
+            GatherTexts(left);
+        return leftRow->rank - rightRow->rank;
+    }
+    return CollationKey(TextOf(left)).Compare(CollationKey(TextOf(right)));
+}
+
+const FileRowOrder::Row* FileRowOrder::Known(const QModelIndex& index) const
+{
+    const auto number = static_cast<std::size_t>(index.row());
+    if (!m_pFolder || number >= m_pFolder->rows.size())
+        return nullptr;
+    const Row* row = &m_pFolder->rows[number];
+    return row->id == index.internalPointer() ? row : nullptr;
+}
+
+void FileRowOrder::EnterFolder(const QModelIndex& index) const
+{
+    // A pass may go through several folders, one after the other.
+    if (Known(index))
+        return;
+    const QModelIndex parent = index.parent();
+    Folder& folder = m_folders[parent.internalPointer()];
+    if (folder.column != index.column())
+        folder.rows.clear();
+    folder.pass = m_nPass;
+    folder.column = index.column();
+    folder.hasTexts = false;
+    folder.hasTimes = false;
+    folder.rows.resize(static_cast<std::size_t>(m_pSource->rowCount(parent)));
+    int number = 0;
+    for (Row& row : folder.rows) {
+        const QModelIndex child = m_pSource->index(number++, folder.column, parent);
+        row.id = child.internalPointer();
+        row.isFolder = m_pSource->isDir(child);
+    }
+    m_pFolder = &folder;
+}
+
+void FileRowOrder::GatherTexts(const QModelIndex& index) const
+{
+    m_pFolder->hasTexts = true;
+    const QModelIndex parent = index.parent();
+    std::vector<Row>& rows = m_pFolder->rows;
+    bool isSame = true;
+    for (std::size_t number = 0; number < rows.size(); ++number) {
+        const QString text = TextOf(m_pSource->index(static_cast<int>(number), m_pFolder->column, parent));
+        // A row that has no rank yet has a null text.
+        isSame = isSame && !rows[number].text.isNull() && text == rows[number].text;
+        rows[number].text = text.isNull() ? QStringLiteral("") : text;
+    }
+    if (!isSame)
+        RankTexts(rows);
+}
+
+void FileRowOrder::GatherTimes(const QModelIndex& index) const
+{
+    m_pFolder->hasTimes = true;
+    const QModelIndex parent = index.parent();
+    int number = 0;
+    for (Row& row : m_pFolder->rows)
+        row.modified = m_pSource->lastModified(m_pSource->index(number++, 0, parent)).toMSecsSinceEpoch();
 }

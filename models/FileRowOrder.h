@@ -1,13 +1,12 @@
 #ifndef FILEROWORDER_H
 #define FILEROWORDER_H
 
-#include "models/CollationKey.h"
-
 #include <QMetaObject>
 #include <QModelIndex>
+#include <QString>
 
 #include <array>
-#include <optional>
+#include <unordered_map>
 #include <vector>
 
 class QAbstractItemModel;
@@ -23,8 +22,9 @@ class QSortFilterProxyModel;
  * usual way.
  *
  * Two things make it fast without changing an answer:
- * - While the proxy sorts everything, which it announces as a change of layout, the text and time of each row
- *   are asked once and kept for that pass. Nothing is kept beyond it, so nothing can go stale.
+ * - While the proxy sorts everything, which it announces as a change of layout, each row is asked for its
+ * facts once, and the texts are compared by their ranks, which one sorting of their collation keys gives. The
+ *   ranks are kept for the next pass, where they serve if every row still has the same text.
  * - A batch of rows that the source inserts is appended and sorted in with one such pass, instead of each row
  *   being put in its place by itself, which costs a search, a shift and a signal a row.
  */
@@ -48,12 +48,24 @@ public:
     bool LessThan(const QModelIndex& left, const QModelIndex& right) const;
 
 private:
+    /** What a pass knows of a row. */
     struct Row
     {
         const void* id = nullptr;
         bool isFolder = false;
-        std::optional<CollationKey> text;
-        std::optional<qint64> modified; ///< ms since the epoch
+        int rank = 0;        ///< the place of its text among the folder's
+        qint64 modified = 0; ///< ms since the epoch
+        QString text;
+    };
+
+    /** What a pass knows of the rows of one folder, for one column. */
+    struct Folder
+    {
+        quint64 pass = 0;
+        int column = -1;
+        bool hasTexts = false; ///< in this pass
+        bool hasTimes = false; ///< in this pass
+        std::vector<Row> rows;
     };
 
     void BeginPass();
@@ -61,19 +73,27 @@ private:
     void SortInsertedRowsLater(int first, int last);
     void SortInsertedRows();
 
-    Row& RowOf(const QModelIndex& index, Row& scratch) const;
-    const CollationKey& TextOf(const QModelIndex& index, Row& row) const;
-    qint64 ModifiedOf(const QModelIndex& index, Row& row) const;
-    bool TextIsAfter(const QModelIndex& left, Row& leftRow, const QModelIndex& right, Row& rightRow) const;
-    bool SizeIsLess(const QModelIndex& left, Row& leftRow, const QModelIndex& right, Row& rightRow) const;
-    bool TypeIsLess(const QModelIndex& left, Row& leftRow, const QModelIndex& right, Row& rightRow) const;
+    static void RankTexts(std::vector<Row>& rows);
+    void EnterFolder(const QModelIndex& index) const;
+    const Row* Known(const QModelIndex& index) const;
+    void GatherTexts(const QModelIndex& index) const;
+    void GatherTimes(const QModelIndex& index) const;
+
+    bool IsFolder(const QModelIndex& index) const;
+    qint64 Modified(const QModelIndex& index) const;
+    int CompareTexts(const QModelIndex& left, const QModelIndex& right) const;
+    bool NameIsLess(const QModelIndex& left, const QModelIndex& right) const;
+    bool SizeIsLess(const QModelIndex& left, const QModelIndex& right) const;
+    bool TypeIsLess(const QModelIndex& left, const QModelIndex& right) const;
 
     QSortFilterProxyModel& m_proxy;
     const QFileSystemModel* m_pSource = nullptr;
     std::array<QMetaObject::Connection, 2> m_insertions;
-    bool m_bInPass = false;
     bool m_bSortPending = false;
-    mutable std::vector<Row> m_rows; ///< by source row; filled during a pass, empty outside of one
+    quint64 m_nPass = 0; ///< the number of the latest pass
+    bool m_bInPass = false;
+    mutable std::unordered_map<const void*, Folder> m_folders; ///< by the node of the folder
+    mutable Folder* m_pFolder = nullptr;                       ///< the one being sorted
 };
 
 #endif

@@ -19,6 +19,11 @@ bool IsValidBaseName(const QString& baseName, bool mayBeBlank)
 
 namespace FileSystemItem {
 
+bool HasRootPath(const QFileSystemModel& model)
+{
+    return model.rootPath() != QLatin1String(".");
+}
+
 QString FileName(const QFileSystemModel& model, const QModelIndex& index)
 {
     const QFileInfo info = model.fileInfo(index);

@@ -17,6 +17,9 @@ class QModelIndex;
  */
 namespace FileSystemItem {
 
+/** @return whether the model was ever given a root path; without one it names the current folder by "." */
+bool HasRootPath(const QFileSystemModel& model);
+
 /**
  * @return the last name of the model's path of an item: that of the target for a linked folder whose link
  *         the model resolves. It is answered from what the model has gathered, without touching the disk.

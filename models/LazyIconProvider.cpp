@@ -77,3 +77,14 @@ QIcon LazyIconProvider::icon(const QFileInfo& info) const
     m_pPlatform->setOptions(options());
     return QIcon(new LazyIconEngine(m_pPlatform, info));
 }
+
+QString LazyIconProvider::type(const QFileInfo& info) const
+{
+    const QString suffix = info.suffix();
+    if (suffix.isEmpty() || !info.isFile())
+        return m_pPlatform->type(info);
+    QString& text = m_typeOfSuffix[suffix];
+    if (text.isEmpty())
+        text = m_pPlatform->type(info);
+    return text;
+}

@@ -164,6 +164,7 @@ void CKTFileManager::CreateModels(bool showExtension)
 {
     m_pTreeModel = new CKTFMTreeModel;
     m_pTreeModel->setReadOnly(true);
+    m_pTreeModel->SetListsFolders(!m_pTreeView->isHidden());
     m_pTreeView->setModel(m_pTreeModel);
     m_pListModel = new CKTFMListModel;
     m_pListModel->setResolveSymlinks(true);

@@ -6,6 +6,7 @@
 #include <KTFileManager2QU/KTFMInterfaces.h>
 
 #include "models/CMySortFilterProxyModel.h"
+#include "models/FileSystemItem.h"
 #include "views/CKTListView.h"
 #include "views/CKTTreeView.h"
 
@@ -21,12 +22,6 @@ constexpr QDir::Filters TreeRefreshFilter = QDir::Filters(QDir::AllDirs | QDir::
 
 /** What the list model's filter is flipped through to have it read its folder again. */
 constexpr QDir::Filters ListRefreshFilter = QDir::Filters(QDir::Files | QDir::NoDotAndDotDot);
-
-/** A model whose root path was never set names the current folder by this. */
-bool HasRootPath(const QFileSystemModel& model)
-{
-    return model.rootPath() != QLatin1String(".");
-}
 
 } // namespace
 
@@ -65,7 +60,7 @@ void CKTFileManager::ShowInList(const QString& path)
 
 bool CKTFileManager::SetDirectory(QString path)
 {
-    const bool isFirst = !HasRootPath(*m_pTreeModel);
+    const bool isFirst = !FileSystemItem::HasRootPath(*m_pTreeModel);
     const QModelIndex root = SetTreeRootPath(path);
     m_pTreeView->setRootIndex(root);
     if (!isFirst) {

@@ -13,6 +13,7 @@
 #include <memory>
 
 class CKTFMListModelInterface;
+class ChildNodes;
 class HostImageCache;
 class LazyIconProvider;
 
@@ -40,6 +41,9 @@ public:
     /** Lists files and folders, hides what a name filter excludes, and is writable in the base's terms. */
     explicit CKTFMListModel(QObject* parent = nullptr);
     ~CKTFMListModel() override;
+
+    using QFileSystemModel::index;
+    QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
 
     bool event(QEvent* event) override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
@@ -177,6 +181,7 @@ private:
     std::unique_ptr<Listing> m_pSortedListing; ///< what was listed when the base last sorted
     std::unique_ptr<HostImageCache> m_pImages;
     std::unique_ptr<LazyIconProvider> m_pIconProvider;
+    std::unique_ptr<ChildNodes> m_pChildNodes;
 };
 
 #endif

@@ -35,6 +35,8 @@ public:
     ~CKTFMTreeModel() override;
 
     bool event(QEvent* event) override;
+    bool canFetchMore(const QModelIndex& parent) const override;
+    void fetchMore(const QModelIndex& parent) override;
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
@@ -99,6 +101,13 @@ public:
      */
     bool SetFolderTipsMappingFile(QString path, QString section);
 
+    /**
+     * Whether the model lists folders; true at first. One that does not still answers for the paths that it
+     * is asked for, which is all that a pane without a folder tree needs of it: a large folder is then read
+     * once, for the file list. Switched on again, it lists its root folder.
+     */
+    void SetListsFolders(bool on);
+
 Q_SIGNALS:
     /** A rename was refused: 0 the new name exists, 1 it is invalid or the file system refused it. */
     void RenameFileError(int code);
@@ -125,6 +134,7 @@ private:
     mutable QHash<int, QString> m_editNames;
     KT::CProfile m_nameProfile;
     KT::CProfile m_tipsProfile;
+    bool m_bListsFolders = true;
     std::unique_ptr<HostImageCache> m_pImages;
     std::unique_ptr<LazyIconProvider> m_pIconProvider;
 };

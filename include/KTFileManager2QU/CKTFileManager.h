@@ -73,7 +73,10 @@ public:
     /** @return the model of the file list; the list views show it through a proxy of their own */
     CKTFMListModel* GetListModel() const;
 
-    /** @return the model of the folder tree */
+    /**
+     * @return the model of the folder tree. In a mode without one it lists no folders, to save the work: see
+     *         CKTFMTreeModel::SetListsFolders.
+     */
     CKTFMTreeModel* GetTreeModel() const;
 
     /** @return the model of the alias tree */
