@@ -57,6 +57,8 @@ QModelIndex CKTFMSortFilterProxyModel::RootIndex(const QFileSystemModel& source)
 
 bool CKTFMSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
+    if (!m_pOrder->IsOfSource(left) || !m_pOrder->IsOfSource(right))
+        return false;
     const auto* source = qobject_cast<QFileSystemModel*>(sourceModel());
     if (left.column() == 0 && m_bCustomSort && m_pInterface && source) {
         bool handled = false;

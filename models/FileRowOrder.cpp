@@ -77,8 +77,15 @@ void FileRowOrder::SortInsertedRows()
     m_proxy.setDynamicSortFilter(true);
 }
 
+bool FileRowOrder::IsOfSource(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == m_proxy.sourceModel();
+}
+
 bool FileRowOrder::LessThan(const QModelIndex& left, const QModelIndex& right) const
 {
+    if (!IsOfSource(left) || !IsOfSource(right))
+        return false;
     Row leftScratch;
     Row rightScratch;
     Row& leftRow = RowOf(left, leftScratch);

@@ -41,9 +41,13 @@ public:
     /** Follows the insertions of a new source. To be called when the proxy has connected itself to it. */
     void FollowSource(QAbstractItemModel* source);
 
+    /** @return whether @p index is a valid one of the proxy's source: no other can be asked about files */
+    bool IsOfSource(const QModelIndex& index) const;
+
     /**
      * Compares two rows of the source by the column of @p left.
-     * @return whether @p left counts as less; false for columns beyond the file-system model's four
+     * @return whether @p left counts as less; false for columns beyond the file-system model's four and for
+     *         indexes that are not the source's
      */
     bool LessThan(const QModelIndex& left, const QModelIndex& right) const;
 
