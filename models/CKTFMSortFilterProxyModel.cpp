@@ -4,7 +4,6 @@
 
 #include "models/FileRowOrder.h"
 
-#include <QFileInfo>
 #include <QFileSystemModel>
 
 CKTFMSortFilterProxyModel::CKTFMSortFilterProxyModel(QObject* parent)
@@ -59,11 +58,11 @@ bool CKTFMSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIn
 {
     if (!m_pOrder->IsOfSource(left) || !m_pOrder->IsOfSource(right))
         return false;
-    const auto* source = qobject_cast<QFileSystemModel*>(sourceModel());
-    if (left.column() == 0 && m_bCustomSort && m_pInterface && source) {
+    const bool hasFiles = qobject_cast<QFileSystemModel*>(sourceModel());
+    if (left.column() == 0 && m_bCustomSort && m_pInterface && hasFiles) {
         bool handled = false;
-        const bool less = m_pInterface->CustomLessThan(QFileInfo(source->filePath(left)),
-                                                       QFileInfo(source->filePath(right)), handled);
+        const bool less =
+            m_pInterface->CustomLessThan(m_pOrder->FileOf(left), m_pOrder->FileOf(right), handled);
         if (handled)
             return less;
     }

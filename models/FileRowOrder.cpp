@@ -106,6 +106,15 @@ bool FileRowOrder::LessThan(const QModelIndex& left, const QModelIndex& right) c
     }
 }
 
+QFileInfo FileRowOrder::FileOf(const QModelIndex& index) const
+{
+    Row scratch;
+    Row& row = RowOf(index, scratch);
+    if (!row.file)
+        row.file = QFileInfo(m_pSource ? m_pSource->filePath(index) : QString());
+    return *row.file;
+}
+
 FileRowOrder::Row& FileRowOrder::RowOf(const QModelIndex& index, Row& scratch) const
 {
     Row* row = &scratch;

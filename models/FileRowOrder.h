@@ -3,6 +3,7 @@
 
 #include "models/CollationKey.h"
 
+#include <QFileInfo>
 #include <QMetaObject>
 #include <QModelIndex>
 
@@ -23,8 +24,8 @@ class QSortFilterProxyModel;
  * usual way.
  *
  * Two things make it fast without changing an answer:
- * - While the proxy sorts everything, which it announces as a change of layout, the text and time of each row
- *   are asked once and kept for that pass. Nothing is kept beyond it, so nothing can go stale.
+ * - While the proxy sorts everything, which it announces as a change of layout, the text, time and file of
+ * each row are asked once and kept for that pass. Nothing is kept beyond it, so nothing can go stale.
  * - A batch of rows that the source inserts is appended and sorted in with one such pass, instead of each row
  *   being put in its place by itself, which costs a search, a shift and a signal a row.
  */
@@ -51,6 +52,12 @@ public:
      */
     bool LessThan(const QModelIndex& left, const QModelIndex& right) const;
 
+    /**
+     * @return the file of a row of the source, for a host to compare. While everything is sorted it stays the
+     *         same: the disk is asked once a file, and one that changes meanwhile cannot upset the sorting.
+     */
+    QFileInfo FileOf(const QModelIndex& index) const;
+
 private:
     struct Row
     {
@@ -58,6 +65,7 @@ private:
         bool isFolder = false;
         std::optional<CollationKey> text;
         std::optional<qint64> modified; ///< ms since the epoch
+        std::optional<QFileInfo> file;
     };
 
     void BeginPass();

@@ -11,7 +11,9 @@
 #include <QAbstractItemModelTester>
 #include <QDir>
 #include <QFile>
+#include <QHash>
 #include <QItemSelectionModel>
+#include <QSet>
 #include <QSignalSpy>
 #include <QStandardItemModel>
 
@@ -53,6 +55,22 @@ public:
     int m_calls = 0;
     bool m_handledAtEntry = false;
     QStringList m_paths;
+};
+
+/** A host that orders by size, while the files grow under its hands. */
+class BySizeOfGrowing : public CCustomSortInterface
+{
+public:
+    bool CustomLessThan(const QFileInfo& left, const QFileInfo& right, bool& handled) override
+    {
+        handled = true;
+        m_sizes[left.fileName()].insert(left.size());
+        m_sizes[right.fileName()].insert(right.size());
+        QFile(left.filePath()).resize(left.size() + 1000);
+        return left.size() < right.size();
+    }
+
+    QHash<QString, QSet<qint64>> m_sizes;
 };
 
 QStringList Names(const QAbstractItemModel& model, const QModelIndex& root)
@@ -188,6 +206,7 @@ private Q_SLOTS:
     void hostOrderDecidesNamesAlone();
     void hostOrderThatHandlesNothingChangesNothing();
     void hostOrderNeedsBothSwitches();
+    void hostSeesAFileInOneStateWhileSorting();
 
     void largeFolderStaysSortedThroughChanges_data();
     void largeFolderStaysSortedThroughChanges();
@@ -577,6 +596,33 @@ void tst_SortFilterProxy::hostOrderNeedsBothSwitches()
     proxy.SetInterface(nullptr);
     QVERIFY(proxy.lessThan(longer, shorter));
     QCOMPARE(host.m_calls, 1);
+}
+
+void tst_SortFilterProxy::hostSeesAFileInOneStateWhileSorting()
+{
+    TestFolder folder;
+    for (int i = 0; i < 100; ++i)
+        SparseFile(folder, QStringLiteral("%1").arg(i), i * 7 % 100, QDateTime());
+    Source source(folder.Path());
+    const QModelIndex root = source.Load(folder.Path());
+    QTRY_COMPARE(source.rowCount(root), 100);
+    CKTFMSortFilterProxyModel proxy;
+    proxy.setSourceModel(&source);
+    QCOMPARE(Shown(proxy, root).size(), 100);
+    BySizeOfGrowing host;
+    proxy.SetInterface(&host);
+    proxy.SetCustomSort(true);
+    proxy.sort(0, Qt::AscendingOrder);
+    QCOMPARE(host.m_sizes.size(), 100);
+    for (const QSet<qint64>& sizes : qAsConst(host.m_sizes))
+        QCOMPARE(sizes.size(), 1);
+    // The next sorting asks the disk again.
+    host.m_sizes.clear();
+    proxy.sort(0, Qt::DescendingOrder);
+    int grown = 0;
+    for (const QSet<qint64>& sizes : qAsConst(host.m_sizes))
+        grown += *sizes.cbegin() >= 1000;
+    QVERIFY(grown > 0);
 }
 
 void tst_SortFilterProxy::largeFolderStaysSortedThroughChanges_data()
