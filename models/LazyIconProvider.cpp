@@ -15,10 +15,10 @@ class LazyIconEngine : public QIconEngine
 {
 public:
     LazyIconEngine(std::shared_ptr<QFileIconProvider> platform, QFileIconProvider::Options options,
-                   QFileInfo info)
+                   const QFileInfo& info)
         : m_pPlatform(std::move(platform)),
           m_options(options),
-          m_info(std::move(info))
+          m_info(info)
     {
     }
 

@@ -27,11 +27,11 @@ private Q_SLOTS:
 
 namespace {
 
-const QString section = QStringLiteral("names");
+const QString names = QStringLiteral("names");
 
 QString Text(const KT::CProfile& profile, const QString& name)
 {
-    return NameMapping::TextOrName(profile, section, name);
+    return NameMapping::TextOrName(profile, names, name);
 }
 
 } // namespace
@@ -107,7 +107,7 @@ void tst_NameMapping::emptyPathIsAPathLikeAnyOther()
     KT::CProfile profile;
     QString kept;
     QVERIFY(NameMapping::SetFile(profile, kept, ini));
-    QVERIFY(NameMapping::SetFile(profile, kept, QStringLiteral("")));
+    QVERIFY(NameMapping::SetFile(profile, kept, QLatin1String("")));
     QCOMPARE(kept, QString());
 }
 
@@ -159,9 +159,9 @@ void tst_NameMapping::missLeavesTheTextAlone()
     QString kept;
     NameMapping::SetFile(profile, kept, ini);
     QString text = QStringLiteral("fallback");
-    QVERIFY(!NameMapping::Find(profile, section, QStringLiteral("other"), text));
+    QVERIFY(!NameMapping::Find(profile, names, QStringLiteral("other"), text));
     QCOMPARE(text, QStringLiteral("fallback"));
-    QVERIFY(NameMapping::Find(profile, section, QStringLiteral("key"), text));
+    QVERIFY(NameMapping::Find(profile, names, QStringLiteral("key"), text));
     QCOMPARE(text, QStringLiteral("text"));
 }
 

@@ -110,7 +110,7 @@ void tst_CollationKey::runsInTheLocaleOfTheEnvironment()
 void tst_CollationKey::agreesWithTheLocaleOnChosenTexts()
 {
     const QStringList texts = {QString(),
-                               QStringLiteral(""),
+                               QLatin1String(""),
                                QStringLiteral("a"),
                                QStringLiteral("A"),
                                QStringLiteral("a "),
@@ -162,7 +162,7 @@ void tst_CollationKey::longTextsAreComparedWhole()
 
 void tst_CollationKey::emptyAndNullAreAlike()
 {
-    const CollationKey empty(QStringLiteral(""));
+    const CollationKey empty(QLatin1String(""));
     QCOMPARE(empty.Compare(CollationKey(QString())), 0);
     QCOMPARE(empty.Compare(CollationKey()), 0);
     QVERIFY(empty.Compare(CollationKey(QStringLiteral("a"))) < 0);

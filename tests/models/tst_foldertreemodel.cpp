@@ -277,7 +277,7 @@ void tst_FolderTreeModel::editTextIsTheFoldersName()
     Fixture tree(folder);
     const QModelIndex index = tree.Index(QStringLiteral("a.b"));
     tree.m_model.SetFolderNameMappingFile(ini);
-    tree.m_model.SetFolderTipsMappingFile(ini, QStringLiteral(""));
+    tree.m_model.SetFolderTipsMappingFile(ini, QLatin1String(""));
     for (int mode = 0; mode <= 4; ++mode) {
         tree.m_model.SetShowStringMode(static_cast<EKTFMShowStringMode>(mode));
         QCOMPARE(tree.m_model.data(index, Qt::EditRole).toString(),
@@ -370,7 +370,7 @@ void tst_FolderTreeModel::mappedNameIsShownAndUnfoundNameWhole()
     QVERIFY(tree.m_model.SetFileMappingSection(QStringLiteral("names")));
     QCOMPARE(tree.Shown(QStringLiteral("Props")), QStringLiteral("Things"));
     QCOMPARE(tree.Shown(QStringLiteral("Props.old")), QStringLiteral("Props.old"));
-    QVERIFY(tree.m_model.SetFileMappingSection(QStringLiteral("")));
+    QVERIFY(tree.m_model.SetFileMappingSection(QLatin1String("")));
     QCOMPARE(tree.Shown(QStringLiteral("Props")), QStringLiteral("Unused"));
 }
 
@@ -507,7 +507,8 @@ void tst_FolderTreeModel::renamesAreRefused_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("code");
-    for (const QChar c : QStringLiteral("\\/:*?|\"<>"))
+    const QString forbidden = QStringLiteral("\\/:*?|\"<>");
+    for (const QChar c : forbidden)
         QTest::addRow("U+%04X", c.unicode()) << QStringLiteral("a") + c + QStringLiteral("b") << 1;
     QTest::newRow("existing sibling") << "taken" << 0;
     QTest::newRow("existing link to nothing") << "nothing" << 0;
@@ -594,7 +595,7 @@ void tst_FolderTreeModel::errorsArriveFromTheEventLoop()
     Fixture tree(folder);
     QSignalSpy errors(&tree.m_model, &CKTFMTreeModel::RenameFileError);
     QVERIFY(!tree.m_model.setData(tree.Index(QStringLiteral("a")), QStringLiteral("a?b")));
-    QVERIFY(!tree.m_model.setData(tree.Index(QStringLiteral("a")), QStringLiteral("")));
+    QVERIFY(!tree.m_model.setData(tree.Index(QStringLiteral("a")), QLatin1String("")));
     QCOMPARE(errors.count(), 0);
     QTRY_COMPARE(Codes(errors), QList<int>({1, 0}));
 }
