@@ -168,7 +168,10 @@ void CKTFMListModel::RememberEdited(const QModelIndex& index) const
 
 bool CKTFMListModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || index.model() != this || role != Qt::EditRole)
+    // The base would take an index of another model for its own.
+    if (index.isValid() && index.model() != this)
+        return false;
+    if (!index.isValid() || role != Qt::EditRole)
         return QFileSystemModel::setData(index, value, role);
     const QFileInfo item = fileInfo(index);
     QString newName = value.toString().trimmed();
@@ -188,7 +191,7 @@ bool CKTFMListModel::setData(const QModelIndex& index, const QVariant& value, in
 
 QString CKTFMListModel::HandleDisplayRole(const QModelIndex& index) const
 {
-    if (index.column() != 0)
+    if (index.column() != 0 || index.model() != this)
         return QString();
     if (m_eShowStringMode == FM_SHOW_STRING_INI)
         return MappedName(index);
@@ -203,6 +206,8 @@ QString CKTFMListModel::HandleDisplayRole(const QModelIndex& index) const
 
 QString CKTFMListModel::HandleEditRole(const QModelIndex& index) const
 {
+    if (index.model() != this)
+        return QString();
     switch (m_eShowStringMode) {
     case FM_SHOW_STRING_FULL_NAME:
         return QStringLiteral("");
@@ -221,7 +226,7 @@ QString CKTFMListModel::HandleEditRole(const QModelIndex& index) const
 
 QString CKTFMListModel::HandleToolTipRole(const QModelIndex& index) const
 {
-    if (index.column() != 0)
+    if (index.column() != 0 || index.model() != this)
         return QString();
     const QString text = m_pInterface ? m_pInterface->HandleListviewToolTipRole(index) : QString();
     if (!text.isNull())

@@ -4,7 +4,6 @@
 
 #include "models/FileRowOrder.h"
 
-#include <QFileInfo>
 #include <QFileSystemModel>
 
 CKTFMSortFilterProxyModel::CKTFMSortFilterProxyModel(QObject* parent)
@@ -57,11 +56,13 @@ QModelIndex CKTFMSortFilterProxyModel::RootIndex(const QFileSystemModel& source)
 
 bool CKTFMSortFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    const auto* source = qobject_cast<QFileSystemModel*>(sourceModel());
-    if (left.column() == 0 && m_bCustomSort && m_pInterface && source) {
+    if (!m_pOrder->IsOfSource(left) || !m_pOrder->IsOfSource(right))
+        return false;
+    const bool hasFiles = qobject_cast<QFileSystemModel*>(sourceModel());
+    if (left.column() == 0 && m_bCustomSort && m_pInterface && hasFiles) {
         bool handled = false;
-        const bool less = m_pInterface->CustomLessThan(QFileInfo(source->filePath(left)),
-                                                       QFileInfo(source->filePath(right)), handled);
+        const bool less =
+            m_pInterface->CustomLessThan(m_pOrder->FileOf(left), m_pOrder->FileOf(right), handled);
         if (handled)
             return less;
     }

@@ -63,6 +63,8 @@ QVariant CKTFMTreeModel::headerData(int section, Qt::Orientation orientation, in
 
 Qt::ItemFlags CKTFMTreeModel::flags(const QModelIndex& index) const
 {
+    if (index.isValid() && index.model() != this)
+        return Qt::NoItemFlags;
     const Qt::ItemFlags flags = QFileSystemModel::flags(index);
     return m_bRenamable ? flags | Qt::ItemIsEditable : flags;
 }
@@ -106,7 +108,10 @@ void CKTFMTreeModel::RememberEdited(const QModelIndex& index) const
 
 bool CKTFMTreeModel::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (!index.isValid() || index.model() != this || role != Qt::EditRole)
+    // The base would take an index of another model for its own.
+    if (index.isValid() && index.model() != this)
+        return false;
+    if (!index.isValid() || role != Qt::EditRole)
         return QFileSystemModel::setData(index, value, role);
     const QFileInfo item = fileInfo(index);
     const QString newName = value.toString();
@@ -121,7 +126,7 @@ bool CKTFMTreeModel::setData(const QModelIndex& index, const QVariant& value, in
 
 QString CKTFMTreeModel::HandleDisplayRole(const QModelIndex& index) const
 {
-    if (index.column() != 0)
+    if (index.column() != 0 || index.model() != this)
         return QString();
     switch (m_eShowStringMode) {
     case FM_SHOW_STRING_BASE_NAME:
@@ -143,7 +148,7 @@ QString CKTFMTreeModel::HandleEditRole(const QModelIndex& index) const
 
 QString CKTFMTreeModel::HandleToolTipRole(const QModelIndex& index) const
 {
-    if (index.column() != 0)
+    if (index.column() != 0 || index.model() != this)
         return QString();
     if (m_bFolderTipsMapping)
         return GetFolderTipsWithINI(FileSystemItem::FileName(*this, index));

@@ -18,10 +18,10 @@ bool HasLanguage()
 
 } // namespace
 
-CollationKey::CollationKey(const QString& text) : m_text(text.normalized(QString::NormalizationForm_C))
+CollationKey::CollationKey(const QString& text) : m_text(text)
 {
     if (HasLanguage() && !text.isEmpty())
-        m_key = DefaultCollator().sortKey(m_text);
+        m_key = DefaultCollator().sortKey(text.normalized(QString::NormalizationForm_C));
 }
 
 int CollationKey::Compare(const CollationKey& other) const

@@ -86,8 +86,10 @@ void FileRowOrder::EndPass()
 {
     m_bInPass = false;
     m_pFolder = nullptr;
-    for (auto folder = m_folders.begin(); folder != m_folders.end();)
+    for (auto folder = m_folders.begin(); folder != m_folders.end();) {
+        folder->second.files.clear();
         folder = folder->second.pass == m_nPass ? std::next(folder) : m_folders.erase(folder);
+    }
 }
 
 void FileRowOrder::SortInsertedRowsLater(int first, int last)
@@ -110,8 +112,30 @@ void FileRowOrder::SortInsertedRows()
     m_proxy.setDynamicSortFilter(true);
 }
 
+bool FileRowOrder::IsOfSource(const QModelIndex& index) const
+{
+    return index.isValid() && index.model() == m_proxy.sourceModel();
+}
+
+QFileInfo FileRowOrder::FileOf(const QModelIndex& index) const
+{
+    if (!m_pSource)
+        return QFileInfo();
+    if (m_bInPass)
+        EnterFolder(index);
+    if (!Known(index))
+        return QFileInfo(m_pSource->filePath(index));
+    m_pFolder->files.resize(m_pFolder->rows.size());
+    auto& file = m_pFolder->files[static_cast<std::size_t>(index.row())];
+    if (!file)
+        file = QFileInfo(m_pSource->filePath(index));
+    return *file;
+}
+
 bool FileRowOrder::LessThan(const QModelIndex& left, const QModelIndex& right) const
 {
+    if (!IsOfSource(left) || !IsOfSource(right))
+        return false;
     if (m_bInPass && m_pSource)
         EnterFolder(left);
     switch (left.column()) {

@@ -1,11 +1,13 @@
 #ifndef FILEROWORDER_H
 #define FILEROWORDER_H
 
+#include <QFileInfo>
 #include <QMetaObject>
 #include <QModelIndex>
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -41,11 +43,21 @@ public:
     /** Follows the insertions of a new source. To be called when the proxy has connected itself to it. */
     void FollowSource(QAbstractItemModel* source);
 
+    /** @return whether @p index is a valid one of the proxy's source: no other can be asked about files */
+    bool IsOfSource(const QModelIndex& index) const;
+
     /**
      * Compares two rows of the source by the column of @p left.
-     * @return whether @p left counts as less; false for columns beyond the file-system model's four
+     * @return whether @p left counts as less; false for columns beyond the file-system model's four and for
+     *         indexes that are not the source's
      */
     bool LessThan(const QModelIndex& left, const QModelIndex& right) const;
+
+    /**
+     * @return the file of a row of the source, for a host to compare. While everything is sorted it stays the
+     *         same: the disk is asked once a file, and one that changes meanwhile cannot upset the sorting.
+     */
+    QFileInfo FileOf(const QModelIndex& index) const;
 
 private:
     /** What a pass knows of a row. */
@@ -66,6 +78,7 @@ private:
         bool hasTexts = false; ///< in this pass
         bool hasTimes = false; ///< in this pass
         std::vector<Row> rows;
+        std::vector<std::optional<QFileInfo>> files; ///< by row, as asked for; for one pass
     };
 
     void BeginPass();

@@ -14,9 +14,11 @@ namespace {
 class LazyIconEngine : public QIconEngine
 {
 public:
-    LazyIconEngine(std::shared_ptr<QFileIconProvider> platform, QFileInfo info)
+    LazyIconEngine(std::shared_ptr<QFileIconProvider> platform, QFileIconProvider::Options options,
+                   const QFileInfo& info)
         : m_pPlatform(std::move(platform)),
-          m_info(std::move(info))
+          m_options(options),
+          m_info(info)
     {
     }
 
@@ -55,6 +57,7 @@ private:
     const QIcon& Icon()
     {
         if (m_pPlatform) {
+            m_pPlatform->setOptions(m_options);
             m_icon = m_pPlatform->icon(m_info);
             m_pPlatform.reset();
         }
@@ -62,6 +65,7 @@ private:
     }
 
     std::shared_ptr<QFileIconProvider> m_pPlatform; ///< null once the icon is known
+    QFileIconProvider::Options m_options;           ///< those of the provider when the icon was asked for
     QFileInfo m_info;
     QIcon m_icon;
 };
@@ -74,8 +78,7 @@ LazyIconProvider::~LazyIconProvider() = default;
 
 QIcon LazyIconProvider::icon(const QFileInfo& info) const
 {
-    m_pPlatform->setOptions(options());
-    return QIcon(new LazyIconEngine(m_pPlatform, info));
+    return QIcon(new LazyIconEngine(m_pPlatform, options(), info));
 }
 
 QString LazyIconProvider::type(const QFileInfo& info) const

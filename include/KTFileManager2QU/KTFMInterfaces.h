@@ -133,7 +133,8 @@ class CCustomSortInterface
 {
 public:
     /**
-     * Compares two rows.
+     * Compares two rows. The answers must make an order: the same for the same rows while a sort goes on, and
+     * never true both ways round. The files are seen in one state throughout a sort.
      * @param handled false on entry; set it to true to have the returned value taken as the answer, leave it
      *        to have the rows compared by the built-in rule
      * @return whether @p left sorts before @p right in ascending order

@@ -7,6 +7,7 @@
 #include <QAbstractItemModelTester>
 #include <QFileIconProvider>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 
 namespace {
 
@@ -856,15 +857,25 @@ void tst_ListModel::indexesOfOtherModelsAreAnsweredEmpty()
     TestFolder folder;
     folder.File(QStringLiteral("a.txt"));
     Fixture list(folder);
+    const QStandardItemModel table(2, 4);
     CKTFMListModel other;
-    const QModelIndex foreign = list.Index(QStringLiteral("a.txt"));
-    QVERIFY(foreign.isValid());
-    for (const int role : {int(Qt::DisplayRole), int(Qt::EditRole), int(Qt::ToolTipRole),
-                           int(Qt::DecorationRole), int(Qt::SizeHintRole)}) {
-        QCOMPARE(other.data(foreign, role), QVariant());
-        QCOMPARE(other.data(QModelIndex(), role), QVariant());
+    // Every index is editable then: the base alone would rename the file of the other model.
+    other.SetRenamable(true);
+    other.SetShowTips(true);
+    for (const QModelIndex& foreign :
+         {list.Index(QStringLiteral("a.txt")), table.index(0, 0), QModelIndex()}) {
+        for (const int role : {int(Qt::DisplayRole), int(Qt::EditRole), int(Qt::ToolTipRole),
+                               int(Qt::DecorationRole), int(Qt::SizeHintRole)})
+            QCOMPARE(other.data(foreign, role), QVariant());
+        for (const int mode : {0, 1, 2, 3, 4}) {
+            other.SetShowStringMode(static_cast<EKTFMShowStringMode>(mode));
+            QVERIFY(other.HandleDisplayRole(foreign).isNull());
+            QVERIFY(other.HandleEditRole(foreign).isNull());
+            QVERIFY(other.HandleToolTipRole(foreign).isNull());
+        }
+        QVERIFY(!other.setData(foreign, QStringLiteral("b")));
+        QVERIFY(!other.setData(foreign, QStringLiteral("b"), Qt::DisplayRole));
     }
-    QVERIFY(!other.setData(foreign, QStringLiteral("b")));
     QVERIFY(QFileInfo::exists(folder.Path(QStringLiteral("a.txt"))));
 }
 
