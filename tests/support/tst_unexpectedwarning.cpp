@@ -1,6 +1,6 @@
 #include "tests/support/TestMain.h"
 
-/** A test that passes by itself, though with a warning that it did not expect; CTest must count it as failed. */
+/** Passes by itself, though with a warning that it did not expect; CTest must count it as failed. */
 class tst_UnexpectedWarning : public QObject
 {
     Q_OBJECT
