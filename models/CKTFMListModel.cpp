@@ -104,8 +104,8 @@ void CKTFMListModel::sort(int column, Qt::SortOrder order)
     if (m_bSortedByProxy && m_pSortedListing && *m_pSortedListing == listing)
         return;
     m_pSortedListing = std::make_unique<Listing>(listing);
-    // Where the root folder's node is missing, the base would insert it in the middle of its change of layout,
-    // and a proxy loses what was made to point at the new rows. It is made here, before that.
+    // Where the root folder's node is missing, the base would insert it in the middle of its change of
+    // layout, and a proxy loses what was made to point at the new rows. It is made here, before that.
     index(rootPath());
     QFileSystemModel::sort(column, order);
 }
@@ -190,7 +190,7 @@ QString CKTFMListModel::HandleEditRole(const QModelIndex& index) const
 {
     switch (m_eShowStringMode) {
     case FM_SHOW_STRING_FULL_NAME:
-        return QStringLiteral("");
+        return QLatin1String("");
     case FM_SHOW_STRING_BASE_NAME:
         return NameWithoutExtension(index);
     case FM_SHOW_STRING_CALLBACK:

@@ -102,7 +102,7 @@ bool FileRowOrder::LessThan(const QModelIndex& left, const QModelIndex& right) c
 FileRowOrder::Row& FileRowOrder::RowOf(const QModelIndex& index, Row& scratch) const
 {
     Row* row = &scratch;
-    if (m_bInPass) {
+    if (m_bInPass && index.isValid()) {
         const auto number = static_cast<std::size_t>(index.row());
         // Room for the whole folder at once: the row of the other side stays where it is.
         if (number >= m_rows.size())

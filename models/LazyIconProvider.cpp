@@ -14,9 +14,9 @@ namespace {
 class LazyIconEngine : public QIconEngine
 {
 public:
-    LazyIconEngine(std::shared_ptr<QFileIconProvider> platform, QFileInfo info)
+    LazyIconEngine(std::shared_ptr<QFileIconProvider> platform, const QFileInfo& info)
         : m_pPlatform(std::move(platform)),
-          m_info(std::move(info))
+          m_info(info)
     {
     }
 
