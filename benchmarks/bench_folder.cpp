@@ -81,8 +81,9 @@ struct Stack
     void WaitForRows(int rows, bool loading)
     {
         bool loaded = !loading;
-        const auto connection = QObject::connect(Model(), &QFileSystemModel::directoryLoaded, View(),
-                                                 [&loaded](const QString&) { loaded = true; });
+        const auto connection =
+            QObject::connect(Model(), &QFileSystemModel::directoryLoaded, View(),
+                             [&loaded](const QString&) { loaded = true; }); // clazy:exclude=lambda-in-connect
         while (!loaded || Rows() != rows)
             QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
         QObject::disconnect(connection);

@@ -11,7 +11,11 @@ set(KTFM_QT_DEFINITIONS
 function(ktfm_compile_settings target)
   target_compile_features(${target} PUBLIC cxx_std_17)
   target_compile_definitions(${target} PRIVATE ${KTFM_QT_DEFINITIONS})
+  # Said as a standard too, so that the flag stands in every command: Clang's tools read commands that were
+  # made for another compiler, and their own default is older.
   set_target_properties(${target} PROPERTIES
+    CXX_STANDARD 17
+    CXX_STANDARD_REQUIRED ON
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON

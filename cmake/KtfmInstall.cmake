@@ -21,8 +21,8 @@ install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake
               ${PROJECT_BINARY_DIR}/KTFileManager2QUConfigVersion.cmake
   DESTINATION ${ktfm_cmake_dir} COMPONENT development)
 
-# pkg-config wants paths below ${prefix}, so that the installed tree may be moved; a distribution may give
-# absolute folders instead.
+# The prefix is told by the place of the pkg-config file itself, so that the installed tree may be moved and
+# `cmake --install --prefix` needs no new configuration; a distribution may give absolute folders instead.
 foreach(kind LIB INCLUDE)
   if(IS_ABSOLUTE "${CMAKE_INSTALL_${kind}DIR}")
     set(KTFM_PC_${kind}DIR "${CMAKE_INSTALL_${kind}DIR}")
@@ -30,6 +30,12 @@ foreach(kind LIB INCLUDE)
     set(KTFM_PC_${kind}DIR "\${prefix}/${CMAKE_INSTALL_${kind}DIR}")
   endif()
 endforeach()
+if(IS_ABSOLUTE "${CMAKE_INSTALL_LIBDIR}")
+  set(KTFM_PC_PREFIX "${CMAKE_INSTALL_PREFIX}")
+else()
+  file(RELATIVE_PATH KTFM_PC_PREFIX /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
+  string(REGEX REPLACE "/$" "" KTFM_PC_PREFIX "\${pcfiledir}/${KTFM_PC_PREFIX}")
+endif()
 configure_file(cmake/KTFileManager2QU.pc.in ${PROJECT_BINARY_DIR}/KTFileManager2QU.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QU.pc
   DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig COMPONENT development)

@@ -210,7 +210,7 @@ QString CKTFMListModel::HandleEditRole(const QModelIndex& index) const
         return QString();
     switch (m_eShowStringMode) {
     case FM_SHOW_STRING_FULL_NAME:
-        return QStringLiteral("");
+        return QLatin1String("");
     case FM_SHOW_STRING_BASE_NAME:
         return NameWithoutExtension(index);
     case FM_SHOW_STRING_CALLBACK:

@@ -92,7 +92,8 @@ void CKTFileManager::AddScannedFolders(const QPersistentModelIndex& index, const
     const QString folder = m_pAliasTreeModel->GetMappedFolderPath(index);
     const QString section = m_pAliasTreeModel->GetINISection(index);
     QSet<QString> known;
-    for (const QModelIndex& child : AliasChildren(index))
+    const QModelIndexList children = AliasChildren(index);
+    for (const QModelIndex& child : children)
         known.insert(m_pAliasTreeModel->GetMappedFolderPath(child));
     QModelIndexList added;
     for (const QString& name : names) {
@@ -192,7 +193,8 @@ void CKTFileManager::ClearPathesForFileSystemWatcher()
 void CKTFileManager::OnDirectoryChanged(const QString& path)
 {
     QList<QPersistentModelIndex> items;
-    for (const QModelIndex& found : m_pAliasTreeModel->IndexWithFilePath(path))
+    const QModelIndexList matches = m_pAliasTreeModel->IndexWithFilePath(path);
+    for (const QModelIndex& found : matches)
         items.append(found.sibling(found.row(), 0));
     for (const QPersistentModelIndex& item : qAsConst(items))
         ScanForAliasTreeDirectories(item);
@@ -200,7 +202,8 @@ void CKTFileManager::OnDirectoryChanged(const QString& path)
 
 void CKTFileManager::OnAliasTreeExpand(const QModelIndex& index)
 {
-    for (const QModelIndex& child : AliasChildren(index))
+    const QModelIndexList children = AliasChildren(index);
+    for (const QModelIndex& child : children)
         ScanForAliasTreeDirectories(child);
     Watch(AliasChildren(index));
 }
@@ -255,7 +258,8 @@ void CKTFileManager::OnAliasTreeCloseEditor()
     if (m_pAliasTreeModel->removeRow(current.row(), current.parent())) {
         ReadAgainFromParent(parent, path, expanded);
     } else if (expanded) {
-        for (const QModelIndex& child : AliasChildren(current))
+        const QModelIndexList children = AliasChildren(current);
+        for (const QModelIndex& child : children)
             ScanForAliasTreeDirectories(child);
     }
     const QString folder = GetCurSelectedFolder(FM_PART_ALIAS_TREE);

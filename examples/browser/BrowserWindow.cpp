@@ -54,7 +54,7 @@ void BrowserWindow::CreateViewActions()
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     QAction* up = toolBar->addAction(style()->standardIcon(QStyle::SP_FileDialogToParent), tr("Up"), this,
                                      &BrowserWindow::OpenParentFolder);
-    up->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Up));
+    up->setShortcut(QKeySequence(static_cast<int>(Qt::ALT) | Qt::Key_Up));
     toolBar->addSeparator();
     auto* views = new QActionGroup(this);
     toolBar->addAction(AddViewAction(views, tr("Thumbnails"), FM_VIEW_ICON));

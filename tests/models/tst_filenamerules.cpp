@@ -16,7 +16,8 @@ private Q_SLOTS:
 void tst_FileNameRules::findsEachForbiddenCharacter_data()
 {
     QTest::addColumn<QString>("character");
-    for (const QChar c : QStringLiteral("\\/:*?|\"<>"))
+    const QString forbidden = QStringLiteral("\\/:*?|\"<>");
+    for (const QChar c : forbidden)
         QTest::addRow("U+%04X", c.unicode()) << QString(c);
 }
 

@@ -288,7 +288,7 @@ void tst_ListModel::emptyHostNameFallsBack()
     folder.File(QStringLiteral("a.txt"));
     Fixture list(folder);
     Host host;
-    host.m_name = QStringLiteral("");
+    host.m_name = QLatin1String("");
     list.m_model.SetInterface(&host);
     QCOMPARE(list.Shown(QStringLiteral("a.txt")), QStringLiteral("a"));
     list.m_model.SetShowStringMode(FM_SHOW_STRING_CALLBACK);
@@ -391,7 +391,7 @@ void tst_ListModel::hostTipWinsEvenWhenEmpty()
     list.m_model.SetInterface(&host);
     host.m_tip = QStringLiteral("Host's tip");
     QCOMPARE(list.Tip(QStringLiteral("a.txt")), QStringLiteral("Host's tip"));
-    host.m_tip = QStringLiteral("");
+    host.m_tip = QLatin1String("");
     QCOMPARE(list.Tip(QStringLiteral("a.txt")), QString());
     host.m_tip = QString();
     QCOMPARE(list.Tip(QStringLiteral("a.txt")), QStringLiteral("a"));
@@ -548,7 +548,7 @@ void tst_ListModel::emptySectionIsAccepted()
     Fixture list(folder);
     list.m_model.SetFileNameMappingFile(ini);
     QVERIFY(list.m_model.SetFileMappingSection(QStringLiteral("names")));
-    QVERIFY(list.m_model.SetFileMappingSection(QStringLiteral("")));
+    QVERIFY(list.m_model.SetFileMappingSection(QLatin1String("")));
     QCOMPARE(list.Shown(QStringLiteral("a.txt")), QStringLiteral("No section"));
 }
 
@@ -580,7 +580,7 @@ void tst_ListModel::tipsFileSwitchesRenamingOffInTheFlagsAlone()
     folder.File(QStringLiteral("a.txt"));
     Fixture list(folder);
     list.m_model.SetRenamable(true);
-    QVERIFY(list.m_model.SetFileTipsMappingFile(folder.Path(QStringLiteral("tips.ini")), QStringLiteral("")));
+    QVERIFY(list.m_model.SetFileTipsMappingFile(folder.Path(QStringLiteral("tips.ini")), QLatin1String("")));
     QVERIFY(!(list.m_model.flags(list.Index(QStringLiteral("a.txt"))) & Qt::ItemIsEditable));
     QVERIFY(!list.m_model.isReadOnly());
 }
@@ -656,7 +656,8 @@ void tst_ListModel::renamesAreRefused_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<int>("code");
-    for (const QChar c : QStringLiteral("\\/:*?|\"<>"))
+    const QString forbidden = QStringLiteral("\\/:*?|\"<>");
+    for (const QChar c : forbidden)
         QTest::addRow("U+%04X", c.unicode()) << QStringLiteral("a") + c + QStringLiteral("b.txt") << 1;
     QTest::newRow("existing sibling") << "taken" << 0;
     QTest::newRow("only the extension") << ".txt" << 1;
@@ -699,7 +700,7 @@ void tst_ListModel::renameToBlanksReturnsFalseWithoutSignal()
     folder.File(QStringLiteral("a.txt"));
     Fixture list(folder);
     for (const QString& blank :
-         {QString(), QStringLiteral(""), QStringLiteral("   "), QStringLiteral("\t")}) {
+         {QString(), QString(QLatin1String("")), QStringLiteral("   "), QStringLiteral("\t")}) {
         const RenameResult outcome = Rename(list.m_model, list.Index(QStringLiteral("a.txt")), blank);
         QVERIFY(!outcome.result);
         QVERIFY(outcome.errors.isEmpty());
