@@ -1,16 +1,21 @@
 #include "BrowserWindow.h"
 
+#include "FolderTrail.h"
+#include "Thumbnails.h"
+
 #include <KTFileManager2QU/KTFileManager2QU.h>
 
 #include <QAction>
 #include <QActionGroup>
 #include <QDesktopServices>
 #include <QDir>
+#include <QEvent>
 #include <QFileInfo>
 #include <QStatusBar>
 #include <QStyle>
 #include <QToolBar>
 #include <QUrl>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -19,6 +24,20 @@ constexpr QSize WindowSize(1000, 640);
 
 /** The part of the width that the folder tree gets. */
 constexpr int TreePercent = 25;
+
+/** How much of the palette's highlight colour shows behind a thumbnail, in per 255: light and dark palettes
+    shine through. */
+constexpr int HoverAlpha = 50;
+constexpr int SelectedAlpha = 100;
+
+/** What a grid cell is wider than its image, in pixels: room for names. */
+constexpr int GridMarginWidth = 60;
+
+/** What a grid cell has above and between its image and name, in pixels. */
+constexpr int NameDistance = 16;
+
+/** The corners of a thumbnail's highlight, in pixels. */
+constexpr int HighlightRadius = 4;
 
 } // namespace
 
@@ -30,8 +49,12 @@ BrowserWindow::BrowserWindow()
     m_pPane->GetListModel()->setParent(this);
     m_pPane->GetTreeModel()->setParent(this);
     m_pPane->GetAliasTreeModel()->setParent(this);
-    m_pPane->SetCallBackInterface(this, nullptr, nullptr, nullptr);
-    setCentralWidget(m_pPane);
+    m_pThumbnails = std::make_unique<Thumbnails>(*m_pPane->GetListModel());
+    connect(m_pThumbnails.get(), &Thumbnails::Ready, this,
+            [this] { m_pPane->UpdateWnd(FM_UPDATE_LIST_VIEW); });
+    m_pPane->SetCallBackInterface(this, nullptr, m_pThumbnails.get(), nullptr);
+    CreateTrail();
+    ColourThumbnails();
     CreateViewActions();
     statusBar();
     resize(WindowSize);
@@ -39,13 +62,48 @@ BrowserWindow::BrowserWindow()
 
 BrowserWindow::~BrowserWindow()
 {
-    // The pane must not outlive this window as its callback, nor the models that it shows.
+    // Neither the bar nor the pane may outlive the callbacks that they were given.
+    delete m_pTrailBar;
     delete m_pPane;
 }
 
 CKTFileManager* BrowserWindow::Pane() const
 {
     return m_pPane;
+}
+
+void BrowserWindow::CreateTrail()
+{
+    m_pTrail = std::make_unique<FolderTrail>(*m_pPane->GetTreeModel(),
+                                             [this](const QString& path) { OpenFolder(path); });
+    auto* content = new QWidget(this);
+    m_pTrailBar = new CTitleBarView(content, m_pTrail.get());
+    m_pTrailBar->SetRootIcon(style()->standardIcon(QStyle::SP_DriveHDIcon));
+    m_pTrailBar->SetRootItemUseIcon(true);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_pTrailBar);
+    layout->addWidget(m_pPane, 1);
+    setCentralWidget(content);
+}
+
+void BrowserWindow::ColourThumbnails()
+{
+    QColor hover = palette().color(QPalette::Highlight);
+    hover.setAlpha(HoverAlpha);
+    QColor selected = hover;
+    selected.setAlpha(SelectedAlpha);
+    const QColor frame = palette().color(QPalette::Highlight);
+    m_pPane->SetItemDisplayInfo(ITEM_STATUS_HOVER, hover, hover, Qt::transparent, HighlightRadius);
+    m_pPane->SetItemDisplayInfo(ITEM_STATUS_SELECTED, selected, selected, frame, HighlightRadius);
+}
+
+void BrowserWindow::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_pPane)
+        ColourThumbnails();
+    QMainWindow::changeEvent(event);
 }
 
 void BrowserWindow::CreateViewActions()
@@ -69,8 +127,17 @@ QAction* BrowserWindow::AddViewAction(QActionGroup* group, const QString& text, 
     action->setCheckable(true);
     action->setIcon(style()->standardIcon(mode == FM_VIEW_DETAIL ? QStyle::SP_FileDialogDetailedView
                                                                  : QStyle::SP_FileDialogListView));
-    connect(action, &QAction::triggered, this, [this, mode] { m_pPane->SetViewMode(mode); });
+    connect(action, &QAction::triggered, this, [this, mode] { ShowView(mode); });
     return action;
+}
+
+void BrowserWindow::ShowView(EKTFMViewMode mode)
+{
+    m_pPane->SetViewMode(mode);
+    // The pane goes back to its own margin with each switch; this one has room for two lines of the font.
+    m_pPane->SetGridMargin(GridMarginWidth, NameDistance + 2 * fontMetrics().lineSpacing());
+    m_pPane->SetItemBorder(GridMarginWidth / 2, GridMarginWidth / 2);
+    m_pPane->CalculateItemPosition();
 }
 
 void BrowserWindow::OpenFolder(const QString& path)
@@ -95,6 +162,7 @@ void BrowserWindow::OnLButtonDblClickListItem(QString absolutePath, bool isFolde
 
 void BrowserWindow::OnListViewRootPathChanged(const QString& newPath)
 {
+    m_pTrailBar->UpdateCrumBar(m_pPane->GetTreeModel()->index(newPath), false);
     setWindowTitle(QDir::toNativeSeparators(newPath));
     statusBar()->showMessage(QDir::toNativeSeparators(newPath));
 }

@@ -5,9 +5,14 @@
 
 #include <QMainWindow>
 
+#include <memory>
+
 class CKTFileManager;
+class CTitleBarView;
+class FolderTrail;
 class QAction;
 class QActionGroup;
+class Thumbnails;
 
 /**
  * A small file browser around one pane.
@@ -29,15 +34,24 @@ public:
     /** @return the pane, which this window owns */
     CKTFileManager* Pane() const;
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void CreateTrail();
+    void ColourThumbnails();
     void CreateViewActions();
     QAction* AddViewAction(QActionGroup* group, const QString& text, EKTFMViewMode mode);
+    void ShowView(EKTFMViewMode mode);
     void OpenParentFolder();
 
     void OnLButtonDblClickListItem(QString absolutePath, bool isFolder) override;
     void OnListViewRootPathChanged(const QString& newPath) override;
 
     CKTFileManager* m_pPane;
+    std::unique_ptr<FolderTrail> m_pTrail;
+    std::unique_ptr<Thumbnails> m_pThumbnails;
+    CTitleBarView* m_pTrailBar = nullptr;
 };
 
 #endif
