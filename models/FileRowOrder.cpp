@@ -232,6 +232,7 @@ void FileRowOrder::EnterFolder(const QModelIndex& index) const
     folder.column = index.column();
     folder.hasTexts = false;
     folder.hasTimes = false;
+    folder.files.clear();
     folder.rows.resize(static_cast<std::size_t>(m_pSource->rowCount(parent)));
     int number = 0;
     for (Row& row : folder.rows) {

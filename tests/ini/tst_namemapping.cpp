@@ -14,8 +14,8 @@ private Q_SLOTS:
     void samePathIsNotReadAgain();
     void otherPathReplacesTheTexts();
     void missingFileIsAcceptedAndKeepsThePath();
-    void folderAsFileIsAcceptedAndHasNoTexts();
-    void emptyPathIsAPathLikeAnyOther();
+    void pathWithoutAFileForgetsTheFormerTexts_data();
+    void pathWithoutAFileForgetsTheFormerTexts();
     void foundTextReplacesTheName_data();
     void foundTextReplacesTheName();
     void missLeavesTheTextAlone();
@@ -89,26 +89,28 @@ void tst_NameMapping::missingFileIsAcceptedAndKeepsThePath()
     QCOMPARE(Text(profile, QStringLiteral("key")), QStringLiteral("key"));
 }
 
-void tst_NameMapping::folderAsFileIsAcceptedAndHasNoTexts()
+void tst_NameMapping::pathWithoutAFileForgetsTheFormerTexts_data()
 {
-    TestFolder folder;
-    const QString ini = folder.File(QStringLiteral("a.ini"), "[names]\nkey=text\n");
-    KT::CProfile profile;
-    QString kept;
-    QVERIFY(NameMapping::SetFile(profile, kept, ini));
-    QVERIFY(NameMapping::SetFile(profile, kept, folder.Path()));
-    QCOMPARE(Text(profile, QStringLiteral("key")), QStringLiteral("key"));
+    QTest::addColumn<QString>("path");
+    QTest::newRow("missing") << "missing.ini";
+    QTest::newRow("folder") << ".";
+    QTest::newRow("empty but not null") << "";
 }
 
-void tst_NameMapping::emptyPathIsAPathLikeAnyOther()
+void tst_NameMapping::pathWithoutAFileForgetsTheFormerTexts()
 {
+    QFETCH(QString, path);
     TestFolder folder;
     const QString ini = folder.File(QStringLiteral("a.ini"), "[names]\nkey=text\n");
+    const QString other = path.isEmpty() ? path : folder.Path(path);
     KT::CProfile profile;
     QString kept;
     QVERIFY(NameMapping::SetFile(profile, kept, ini));
-    QVERIFY(NameMapping::SetFile(profile, kept, QLatin1String("")));
-    QCOMPARE(kept, QString());
+    QVERIFY(NameMapping::SetFile(profile, kept, other));
+    QCOMPARE(kept, other);
+    QCOMPARE(Text(profile, QStringLiteral("key")), QStringLiteral("key"));
+    QVERIFY(NameMapping::SetFile(profile, kept, ini));
+    QCOMPARE(Text(profile, QStringLiteral("key")), QStringLiteral("text"));
 }
 
 void tst_NameMapping::foundTextReplacesTheName_data()

@@ -23,7 +23,8 @@ const QVector<QString>& Letters()
 {
     static const QVector<QString> letters = [] {
         QVector<QString> all;
-        for (const char c : QByteArray("abzABZ019 -_.~'(\t\n\x01\x1f\x7f"))
+        const QByteArray ascii("abzABZ019 -_.~'(\t\n\x01\x1f\x7f");
+        for (const char c : ascii)
             all.append(QString(QLatin1Char(c)));
         for (const int c :
              {0xc4,   0xe4,   0xdf,   0xe5,   0xf6,   0x1b5,  0x200d, 0xad,   0x301,  0x308,  0x30a,  0x327,

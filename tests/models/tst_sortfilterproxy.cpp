@@ -37,6 +37,7 @@ public:
 using WidgetProxy = AskedProxy<CMySortFilterProxyModel>;
 using HostProxy = AskedProxy<CKTFMSortFilterProxyModel>;
 using Source = ConfinedModel<QFileSystemModel>;
+using ListSource = ConfinedModel<CKTFMListModel>;
 
 /** A host's own order: names by their length; decides only when it is told to. */
 class ByLength : public CCustomSortInterface
@@ -155,6 +156,18 @@ template <class Proxy> bool MapsBothWays(const Proxy& proxy, const QModelIndex& 
     return true;
 }
 
+/** @return whether the list gives the same indexes of a folder's rows as the base does */
+bool IndexesAreTheBases(const CKTFMListModel& list, const QModelIndex& root)
+{
+    for (int row = -1; row <= list.rowCount(root); ++row) {
+        for (int column = -1; column <= list.columnCount(root); ++column) {
+            if (list.index(row, column, root) != list.QFileSystemModel::index(row, column, root))
+                return false;
+        }
+    }
+    return true;
+}
+
 /** The names that a proxy shows for a folder of its source. */
 template <class Proxy> QStringList Shown(const Proxy& proxy, const QModelIndex& root)
 {
@@ -194,6 +207,7 @@ private Q_SLOTS:
     void datesHaveNoFolderRule();
     void columnsBeyondTheFourAreLeftAlone();
     void shownNamesDecideNotThoseOnDisk();
+    void shownNamesThatChangeAreSeenByTheNextSorting();
 
     void searchKeepsWhatContainsTheText();
     void searchTakesEffectWithTheNextFiltering();
@@ -383,7 +397,7 @@ void tst_SortFilterProxy::shownNamesDecideNotThoseOnDisk()
     folder.File(QStringLiteral("b.txt"));
     TestFolder elsewhere;
     const QString ini = elsewhere.File(QStringLiteral("names.ini"), "a.txt=Zebra\nb.txt=Ant\n");
-    ConfinedModel<CKTFMListModel> source(folder.Path());
+    ListSource source(folder.Path());
     source.SetFileNameMappingFile(ini);
     source.SetFileMappingSection(QLatin1String(""));
     const QModelIndex root = source.Load(folder.Path());
@@ -391,6 +405,33 @@ void tst_SortFilterProxy::shownNamesDecideNotThoseOnDisk()
     proxy.setSourceModel(&source);
     proxy.sort(0, Qt::DescendingOrder);
     QCOMPARE(Shown(proxy, root), QStringList({QStringLiteral("b.txt"), QStringLiteral("a.txt")}));
+}
+
+void tst_SortFilterProxy::shownNamesThatChangeAreSeenByTheNextSorting()
+{
+    TestFolder folder;
+    folder.File(QStringLiteral("a.txt"));
+    folder.File(QStringLiteral("b.txt"));
+    folder.File(QStringLiteral("c.txt"));
+    TestFolder elsewhere;
+    const QString ini = elsewhere.File(QStringLiteral("names.ini"), "[1]\na.txt=z\n[2]\nc.txt=0\n");
+    ListSource source(folder.Path());
+    const QModelIndex root = source.Load(folder.Path());
+    CMySortFilterProxyModel proxy;
+    proxy.setSourceModel(&source);
+    const auto sorted = [&proxy, &root] {
+        proxy.sort(0, Qt::AscendingOrder);
+        proxy.sort(0, Qt::DescendingOrder);
+        return Shown(proxy, root).join(QLatin1Char(' '));
+    };
+    QCOMPARE(sorted(), QStringLiteral("a.txt b.txt c.txt"));
+    source.SetFileNameMappingFile(ini);
+    source.SetFileMappingSection(QStringLiteral("1"));
+    QCOMPARE(sorted(), QStringLiteral("b.txt c.txt a.txt"));
+    source.SetFileMappingSection(QStringLiteral("2"));
+    QCOMPARE(sorted(), QStringLiteral("c.txt a.txt b.txt"));
+    source.SetShowStringMode(FM_SHOW_STRING_BASE_NAME);
+    QCOMPARE(sorted(), QStringLiteral("a.txt b.txt c.txt"));
 }
 
 void tst_SortFilterProxy::searchKeepsWhatContainsTheText()
@@ -495,7 +536,7 @@ void tst_SortFilterProxy::searchLooksAtShownNames()
     TestFolder folder;
     folder.File(QStringLiteral("a.txt"));
     folder.File(QStringLiteral("txt.png"));
-    ConfinedModel<CKTFMListModel> source(folder.Path());
+    ListSource source(folder.Path());
     const QModelIndex root = source.Load(folder.Path());
     CKTFMSortFilterProxyModel proxy;
     proxy.SetSearchTextFilter(QStringLiteral("txt"));
@@ -630,11 +671,12 @@ void tst_SortFilterProxy::largeFolderStaysSortedThroughChanges_data()
     QTest::addColumn<int>("column");
     QTest::addColumn<Qt::SortOrder>("order");
     QTest::addColumn<int>("batch");
-    QTest::newRow("names as the header starts") << 0 << Qt::DescendingOrder << 1000;
-    QTest::newRow("names turned round") << 0 << Qt::AscendingOrder << 200;
-    QTest::newRow("sizes") << 1 << Qt::AscendingOrder << 200;
-    QTest::newRow("types") << 2 << Qt::AscendingOrder << 200;
-    QTest::newRow("dates") << 3 << Qt::DescendingOrder << 200;
+    QTest::addColumn<bool>("sortedByProxy");
+    QTest::newRow("names as the header starts") << 0 << Qt::DescendingOrder << 1000 << true;
+    QTest::newRow("names turned round") << 0 << Qt::AscendingOrder << 200 << false;
+    QTest::newRow("sizes") << 1 << Qt::AscendingOrder << 200 << true;
+    QTest::newRow("types") << 2 << Qt::AscendingOrder << 200 << false;
+    QTest::newRow("dates") << 3 << Qt::DescendingOrder << 200 << true;
 }
 
 void tst_SortFilterProxy::largeFolderStaysSortedThroughChanges()
@@ -642,6 +684,7 @@ void tst_SortFilterProxy::largeFolderStaysSortedThroughChanges()
     QFETCH(int, column);
     QFETCH(Qt::SortOrder, order);
     QFETCH(int, batch);
+    QFETCH(bool, sortedByProxy);
     TestFolder folder;
     const auto make = [&folder](const char* prefix, int count) {
         for (int i = 0; i < count; ++i) {
@@ -653,14 +696,15 @@ void tst_SortFilterProxy::largeFolderStaysSortedThroughChanges()
     };
     make("m", 2 * batch);
     folder.Folder(QStringLiteral("folder"));
-    Source source(folder.Path());
+    ListSource source(folder.Path());
+    source.SetSortedByProxy(sortedByProxy);
     WidgetProxy proxy;
     proxy.sort(column, order);
     proxy.setSourceModel(&source);
     const QModelIndex root = source.Load(folder.Path());
     const auto isSorted = [&](int count) {
         return Shown(proxy, root).size() == count && Shown(proxy, root) == FullSort(proxy, root) &&
-               MapsBothWays(proxy, root) && proxy.dynamicSortFilter();
+               MapsBothWays(proxy, root) && IndexesAreTheBases(source, root) && proxy.dynamicSortFilter();
     };
     QTRY_COMPARE_WITH_TIMEOUT(Shown(proxy, root).size(), 2 * batch + 1, FolderTimeout);
     QTRY_VERIFY(isSorted(2 * batch + 1));
