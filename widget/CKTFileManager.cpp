@@ -76,7 +76,8 @@ void CKTFileManager::CreateListView()
     m_pListView->setUniformItemSizes(true);
     m_pListView->setViewMode(QListView::IconMode);
     m_pListView->setAttribute(Qt::WA_MouseTracking);
-    m_pListView->setDragEnabled(false);
+    // An icon view lets its items be dragged and takes drops unless told otherwise.
+    m_pListView->setDragDropMode(QAbstractItemView::NoDragDrop);
     m_pListView->setSelectionRectVisible(true);
     m_pListView->setResizeMode(QListView::Adjust);
     m_pListView->setFlow(QListView::LeftToRight);
@@ -128,14 +129,13 @@ void CKTFileManager::CreateLayout(const QRect& rect, int leftPanePercent)
 
 void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
 {
-    QList<int> sizes = splitter->sizes();
     const int leftWidth = splitter->width() * leftPanePercent / 100;
     const int listWidth = splitter->width() * (100 - leftPanePercent) / 100;
     QWidget* focused = m_pListView;
     switch (m_eMode) {
     case FM_MODE_TREE_AND_LIST:
-        sizes = {leftWidth, sizes.at(1), listWidth};
         m_pAliasTreeView->hide();
+        splitter->setSizes({leftWidth, 0, listWidth});
         break;
     case FM_MODE_TREE_ONLY:
         m_pViewStack->hide();
@@ -147,8 +147,8 @@ void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
         m_pAliasTreeView->hide();
         break;
     case FM_MODE_ALIAS_TREE_AND_LIST:
-        sizes = {sizes.at(0), leftWidth, listWidth};
         m_pTreeView->hide();
+        splitter->setSizes({0, leftWidth, listWidth});
         break;
     default:
         focused = nullptr;
@@ -156,7 +156,6 @@ void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
     }
     if (focused)
         focused->setFocus(Qt::OtherFocusReason);
-    splitter->setSizes(sizes);
 }
 
 void CKTFileManager::CreateModels(bool showExtension)
