@@ -57,7 +57,6 @@ CKTFileManager::CKTFileManager(QWidget* parent, QRect rect, EKTFMMode mode, int 
     ConnectViews();
     ConnectSelections();
     ConnectModels();
-    HideTopLevelRows();
 }
 
 CKTFileManager::~CKTFileManager() = default;
@@ -240,8 +239,14 @@ void CKTFileManager::ConnectModels()
     connect(m_pTreeModel, &CKTFMTreeModel::RenameFileError, this, &CKTFileManager::OnTreeRenameFileError);
     connect(m_pAliasTreeModel, &CKTFMAliasTreeModel::RenameFileError, this,
             &CKTFileManager::OnAliasTreeRenameFileError);
-    connect(m_pProxy, &QAbstractItemModel::rowsInserted, this, &CKTFileManager::HideTopLevelRows);
-    connect(m_pProxy, &QAbstractItemModel::rowsRemoved, this, &CKTFileManager::HideTopLevelRows);
+    // Queued, because the base model also inserts rows in the midst of changing its layout, and an index that
+    // a view keeps from in there would point to nothing afterwards.
+    connect(m_pProxy, &QAbstractItemModel::rowsInserted, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
+    connect(m_pProxy, &QAbstractItemModel::rowsRemoved, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
+    connect(m_pProxy, &QAbstractItemModel::layoutChanged, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
 }
 
 void CKTFileManager::HideTopLevelRows()

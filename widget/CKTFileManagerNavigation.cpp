@@ -22,6 +22,12 @@ constexpr QDir::Filters TreeRefreshFilter = QDir::Filters(QDir::AllDirs | QDir::
 /** What the list model's filter is flipped through to have it read its folder again. */
 constexpr QDir::Filters ListRefreshFilter = QDir::Filters(QDir::Files | QDir::NoDotAndDotDot);
 
+/** @return the path of an index, an empty one for an index of another model */
+QString PathIn(const QFileSystemModel& model, const QModelIndex& index)
+{
+    return index.model() == &model ? model.filePath(index) : QString();
+}
+
 /** A model whose root path was never set names the current folder by this. */
 bool HasRootPath(const QFileSystemModel& model)
 {
@@ -60,13 +66,12 @@ void CKTFileManager::ShowInList(const QString& path)
     m_pListView->setRootIndex(MapFromSource(root));
     m_pDetailView->setRootIndex(MapFromSource(root));
     RefreshModel(m_pListModel, ListRefreshFilter);
-    HideTopLevelRows();
 }
 
 bool CKTFileManager::SetDirectory(QString path)
 {
     const bool isFirst = !HasRootPath(*m_pTreeModel);
-    const QModelIndex root = SetTreeRootPath(path);
+    const QPersistentModelIndex root = SetTreeRootPath(path);
     m_pTreeView->setRootIndex(root);
     if (!isFirst) {
         m_pTreeView->setCurrentIndex(root);
@@ -79,7 +84,7 @@ bool CKTFileManager::SetDirectory(QString path)
 
 void CKTFileManager::SelectTreeItem(const QModelIndex& treeIndex)
 {
-    const QFileInfo folder(m_pTreeModel->filePath(treeIndex));
+    const QFileInfo folder(PathIn(*m_pTreeModel, treeIndex));
     if (!folder.exists())
         return;
     ShowInList(folder.absoluteFilePath());
@@ -97,7 +102,7 @@ QAbstractItemView* CKTFileManager::ShownListView() const
 
 QString CKTFileManager::GoToParentFolder()
 {
-    const QModelIndex parent = m_pTreeView->currentIndex().parent();
+    const QPersistentModelIndex parent = m_pTreeView->currentIndex().parent();
     if (!parent.isValid())
         return QString();
     m_pTreeView->setCurrentIndex(parent);
@@ -107,6 +112,8 @@ QString CKTFileManager::GoToParentFolder()
 
 bool CKTFileManager::SetCurrentSelection(int n)
 {
+    if (!HasRootPath(*m_pListModel))
+        return false;
     const QDir folder(m_pListModel->rootPath());
     const QStringList names =
         folder.entryList(QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::NoSort);
@@ -191,6 +198,8 @@ QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
 QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFilters) const
 {
     QStringList paths;
+    if (!HasRootPath(*m_pListModel))
+        return paths;
     QDirIterator files(m_pListModel->rootPath(), nameFilters, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
         paths.append(files.next());
@@ -199,7 +208,7 @@ QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFi
 
 void CKTFileManager::OnTreeClicked(const QModelIndex& index)
 {
-    const QFileInfo folder(m_pTreeModel->filePath(index));
+    const QFileInfo folder(PathIn(*m_pTreeModel, index));
     m_eLastMenuFrom = FM_PART_TREE;
     const QPersistentModelIndex clicked(index);
     if (folder.exists() && m_pInterface)

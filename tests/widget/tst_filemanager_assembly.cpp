@@ -557,8 +557,9 @@ void tst_FileManagerAssembly::beforeAnyFolderTheListIsEmpty()
 {
     PaneFixture f;
     QVERIFY(f.Show());
-    QVERIFY(f.Names().isEmpty());
-    QVERIFY(f.DetailNames().isEmpty());
+    QTRY_VERIFY(f.Proxy()->rowCount() > 0);
+    QTRY_COMPARE(f.Names(), QStringList());
+    QCOMPARE(f.DetailNames(), QStringList());
     f.m_pPane->SetViewMode(FM_VIEW_DETAIL);
     QVERIFY(!f.Details()->indexAt(QPoint(5, 5)).isValid());
     QVERIFY(!f.Grid()->indexAt(QPoint(5, 5)).isValid());
