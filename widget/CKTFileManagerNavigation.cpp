@@ -11,7 +11,9 @@
 
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QHash>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QStackedWidget>
 
 namespace {
@@ -32,6 +34,28 @@ QString PathIn(const QFileSystemModel& model, const QModelIndex& index)
 bool HasRootPath(const QFileSystemModel& model)
 {
     return model.rootPath() != QLatin1String(".");
+}
+
+/**
+ * @return the first column of the rows that are selected from end to end, in the order of selection. It is
+ *         what QItemSelectionModel::selectedRows gives, at a cost that does not grow with the square of a
+ *         selection that has many gaps.
+ */
+QModelIndexList WholeRows(const QItemSelectionModel& selection)
+{
+    QModelIndexList rows;
+    QHash<QModelIndex, int> cells;
+    const QItemSelection ranges = selection.selection();
+    for (const QItemSelectionRange& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const QModelIndex first = range.model()->index(row, 0, range.parent());
+            int& selected = cells[first];
+            selected += range.width();
+            if (selected == range.model()->columnCount(range.parent()))
+                rows.append(first);
+        }
+    }
+    return rows;
 }
 
 } // namespace
@@ -72,7 +96,10 @@ bool CKTFileManager::SetDirectory(QString path)
 {
     const bool isFirst = !HasRootPath(*m_pTreeModel);
     const QPersistentModelIndex root = SetTreeRootPath(path);
-    m_pTreeView->setRootIndex(root);
+    // A missing folder leaves the root path as it was; before there is one, the index is that of the
+    // process's own current folder.
+    if (!isFirst || HasRootPath(*m_pTreeModel))
+        m_pTreeView->setRootIndex(root);
     if (!isFirst) {
         m_pTreeView->setCurrentIndex(root);
         SelectTreeItem(root);
@@ -186,7 +213,7 @@ QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
         return paths;
     }
     // The grid selects items, not rows.
-    QModelIndexList indexes = m_pListSelectionModel->selectedRows(0);
+    QModelIndexList indexes = WholeRows(*m_pListSelectionModel);
     if (indexes.isEmpty())
         indexes = m_pListSelectionModel->selectedIndexes();
     for (const QModelIndex& index : qAsConst(indexes))

@@ -85,6 +85,7 @@ private Q_SLOTS:
     void laterDirectoryShowsTreeAndList();
     void treeShowsTheNameColumnAlone();
     void directoryKeepsTheModelsFilters();
+    void missingFirstDirectoryShowsNoOther();
     void missingDirectoryKeepsWhatIsShown();
     void emptyDirectoryShowsTheDrivesInTheTreeAlone();
     void fileAsDirectoryShowsItsFolder();
@@ -131,6 +132,7 @@ private Q_SLOTS:
     void selectedFilesOfTheGrid();
     void selectedRowsOfTheDetailsCountOnce();
     void selectedFilesOfManyRows();
+    void selectedRowsWithGaps();
     void selectedCellsOfOneRowCountOnce();
     void selectedFoldersOfTheTree();
     void allFilesBelowTheListedFolder();
@@ -193,6 +195,18 @@ void tst_FileManagerNavigation::directoryKeepsTheModelsFilters()
     f.m_pPane->GoToParentFolder();
     QCOMPARE(f.m_pPane->GetTreeModel()->filter(), treeFilter);
     QCOMPARE(f.m_pPane->GetListModel()->filter(), listFilter);
+}
+
+void tst_FileManagerNavigation::missingFirstDirectoryShowsNoOther()
+{
+    MixedFolder f;
+    QVERIFY(f.m_pPane->SetDirectory(f.m_folder.Path(QStringLiteral("missing"))));
+    QVERIFY(!f.Tree()->rootIndex().isValid());
+    QVERIFY(f.m_host.m_calls.isEmpty());
+    // It does not count: the next one is the first.
+    QVERIFY(f.m_pPane->SetDirectory(f.m_folder.Path()));
+    QCOMPARE(TreeRoot(f), f.m_folder.Path());
+    QVERIFY(!f.Grid()->rootIndex().isValid());
 }
 
 void tst_FileManagerNavigation::missingDirectoryKeepsWhatIsShown()
@@ -850,6 +864,34 @@ void tst_FileManagerNavigation::selectedFilesOfManyRows()
     f.m_pPane->SetViewMode(FM_VIEW_DETAIL);
     QCOMPARE(f.m_pPane->GetCurSelectedFileList(true).size(), Files);
     QCOMPARE(Sorted(f.m_pPane->GetCurSelectedFileList(true)), fromGrid);
+}
+
+void tst_FileManagerNavigation::selectedRowsWithGaps()
+{
+    constexpr int Files = 40;
+    PaneFixture f;
+    for (int i = 0; i < Files; ++i)
+        f.m_folder.File(QString::number(i));
+    f.m_pPane->SetSelectionMode(FM_SELECTION_EXTENDED);
+    QVERIFY(f.ShowFolder(Files));
+    f.m_pPane->SetViewMode(FM_VIEW_DETAIL);
+    QStringList expected;
+    for (int row = 0; row < Files; row += 2) {
+        const QModelIndex item = f.Proxy()->index(row, 0, f.Details()->rootIndex());
+        f.Details()->scrollTo(item);
+        QTest::mouseClick(f.Details()->viewport(), Qt::LeftButton, Qt::ControlModifier,
+                          f.Details()->visualRect(item).center());
+        expected.append(f.m_folder.Path(item.data(QFileSystemModel::FileNameRole).toString()));
+    }
+    QCOMPARE(Sorted(f.m_pPane->GetCurSelectedFileList(true)), Sorted(expected));
+    // A row that is selected in part is not taken beside whole ones.
+    const QModelIndex odd = f.Proxy()->index(1, 2, f.Details()->rootIndex());
+    f.Details()->selectionModel()->select(odd, QItemSelectionModel::Select);
+    QCOMPARE(Sorted(f.m_pPane->GetCurSelectedFileList(true)), Sorted(expected));
+    // It counts once its cells are selected one by one.
+    for (int column = 0; column < f.Proxy()->columnCount(); ++column)
+        f.Details()->selectionModel()->select(odd.siblingAtColumn(column), QItemSelectionModel::Select);
+    QCOMPARE(f.m_pPane->GetCurSelectedFileList(true).size(), expected.size() + 1);
 }
 
 void tst_FileManagerNavigation::selectedCellsOfOneRowCountOnce()
