@@ -58,7 +58,6 @@ CKTFileManager::CKTFileManager(QWidget* parent, QRect rect, EKTFMMode mode, int 
     ConnectSelections();
     ConnectModels();
     ConnectAliasTree();
-    HideTopLevelRows();
 }
 
 CKTFileManager::~CKTFileManager() = default;
@@ -77,7 +76,8 @@ void CKTFileManager::CreateListView()
     m_pListView->setUniformItemSizes(true);
     m_pListView->setViewMode(QListView::IconMode);
     m_pListView->setAttribute(Qt::WA_MouseTracking);
-    m_pListView->setDragEnabled(false);
+    // An icon view lets its items be dragged and takes drops unless told otherwise.
+    m_pListView->setDragDropMode(QAbstractItemView::NoDragDrop);
     m_pListView->setSelectionRectVisible(true);
     m_pListView->setResizeMode(QListView::Adjust);
     m_pListView->setFlow(QListView::LeftToRight);
@@ -129,14 +129,13 @@ void CKTFileManager::CreateLayout(const QRect& rect, int leftPanePercent)
 
 void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
 {
-    QList<int> sizes = splitter->sizes();
     const int leftWidth = splitter->width() * leftPanePercent / 100;
     const int listWidth = splitter->width() * (100 - leftPanePercent) / 100;
     QWidget* focused = m_pListView;
     switch (m_eMode) {
     case FM_MODE_TREE_AND_LIST:
-        sizes = {leftWidth, sizes.at(1), listWidth};
         m_pAliasTreeView->hide();
+        splitter->setSizes({leftWidth, 0, listWidth});
         break;
     case FM_MODE_TREE_ONLY:
         m_pViewStack->hide();
@@ -148,8 +147,8 @@ void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
         m_pAliasTreeView->hide();
         break;
     case FM_MODE_ALIAS_TREE_AND_LIST:
-        sizes = {sizes.at(0), leftWidth, listWidth};
         m_pTreeView->hide();
+        splitter->setSizes({0, leftWidth, listWidth});
         break;
     default:
         focused = nullptr;
@@ -157,7 +156,6 @@ void CKTFileManager::ArrangePanes(QSplitter* splitter, int leftPanePercent)
     }
     if (focused)
         focused->setFocus(Qt::OtherFocusReason);
-    splitter->setSizes(sizes);
 }
 
 void CKTFileManager::CreateModels(bool showExtension)
@@ -243,8 +241,14 @@ void CKTFileManager::ConnectModels()
     connect(m_pTreeModel, &CKTFMTreeModel::RenameFileError, this, &CKTFileManager::OnTreeRenameFileError);
     connect(m_pAliasTreeModel, &CKTFMAliasTreeModel::RenameFileError, this,
             &CKTFileManager::OnAliasTreeRenameFileError);
-    connect(m_pProxy, &QAbstractItemModel::rowsInserted, this, &CKTFileManager::HideTopLevelRows);
-    connect(m_pProxy, &QAbstractItemModel::rowsRemoved, this, &CKTFileManager::HideTopLevelRows);
+    // Queued, because the base model also inserts rows in the midst of changing its layout, and an index that
+    // a view keeps from in there would point to nothing afterwards.
+    connect(m_pProxy, &QAbstractItemModel::rowsInserted, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
+    connect(m_pProxy, &QAbstractItemModel::rowsRemoved, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
+    connect(m_pProxy, &QAbstractItemModel::layoutChanged, this, &CKTFileManager::HideTopLevelRows,
+            Qt::QueuedConnection);
 }
 
 void CKTFileManager::ConnectAliasTree()

@@ -12,7 +12,9 @@
 
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QHash>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QStackedWidget>
 
 namespace {
@@ -22,6 +24,34 @@ constexpr QDir::Filters TreeRefreshFilter = QDir::Filters(QDir::AllDirs | QDir::
 
 /** What the list model's filter is flipped through to have it read its folder again. */
 constexpr QDir::Filters ListRefreshFilter = QDir::Filters(QDir::Files | QDir::NoDotAndDotDot);
+
+/** @return the path of an index, an empty one for an index of another model */
+QString PathIn(const QFileSystemModel& model, const QModelIndex& index)
+{
+    return index.model() == &model ? model.filePath(index) : QString();
+}
+
+/**
+ * @return the first column of the rows that are selected from end to end, in the order of selection. It is
+ *         what QItemSelectionModel::selectedRows gives, at a cost that does not grow with the square of a
+ *         selection that has many gaps.
+ */
+QModelIndexList WholeRows(const QItemSelectionModel& selection)
+{
+    QModelIndexList rows;
+    QHash<QModelIndex, int> cells;
+    const QItemSelection ranges = selection.selection();
+    for (const QItemSelectionRange& range : ranges) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            const QModelIndex first = range.model()->index(row, 0, range.parent());
+            int& selected = cells[first];
+            selected += range.width();
+            if (selected == range.model()->columnCount(range.parent()))
+                rows.append(first);
+        }
+    }
+    return rows;
+}
 
 } // namespace
 
@@ -55,14 +85,16 @@ void CKTFileManager::ShowInList(const QString& path)
     m_pListView->setRootIndex(MapFromSource(root));
     m_pDetailView->setRootIndex(MapFromSource(root));
     RefreshModel(m_pListModel, ListRefreshFilter);
-    HideTopLevelRows();
 }
 
 bool CKTFileManager::SetDirectory(QString path)
 {
     const bool isFirst = !FileSystemItem::HasRootPath(*m_pTreeModel);
-    const QModelIndex root = SetTreeRootPath(path);
-    m_pTreeView->setRootIndex(root);
+    const QPersistentModelIndex root = SetTreeRootPath(path);
+    // A missing folder leaves the root path as it was; before there is one, the index is that of the
+    // process's own current folder.
+    if (!isFirst || FileSystemItem::HasRootPath(*m_pTreeModel))
+        m_pTreeView->setRootIndex(root);
     if (!isFirst) {
         m_pTreeView->setCurrentIndex(root);
         SelectTreeItem(root);
@@ -74,7 +106,7 @@ bool CKTFileManager::SetDirectory(QString path)
 
 void CKTFileManager::SelectTreeItem(const QModelIndex& treeIndex)
 {
-    const QFileInfo folder(m_pTreeModel->filePath(treeIndex));
+    const QFileInfo folder(PathIn(*m_pTreeModel, treeIndex));
     if (!folder.exists())
         return;
     ShowInList(folder.absoluteFilePath());
@@ -92,7 +124,7 @@ QAbstractItemView* CKTFileManager::ShownListView() const
 
 QString CKTFileManager::GoToParentFolder()
 {
-    const QModelIndex parent = m_pTreeView->currentIndex().parent();
+    const QPersistentModelIndex parent = m_pTreeView->currentIndex().parent();
     if (!parent.isValid())
         return QString();
     m_pTreeView->setCurrentIndex(parent);
@@ -102,6 +134,8 @@ QString CKTFileManager::GoToParentFolder()
 
 bool CKTFileManager::SetCurrentSelection(int n)
 {
+    if (!FileSystemItem::HasRootPath(*m_pListModel))
+        return false;
     const QDir folder(m_pListModel->rootPath());
     const QStringList names =
         folder.entryList(QDir::Files | QDir::NoSymLinks | QDir::NoDotAndDotDot, QDir::NoSort);
@@ -174,7 +208,7 @@ QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
         return paths;
     }
     // The grid selects items, not rows.
-    QModelIndexList indexes = m_pListSelectionModel->selectedRows(0);
+    QModelIndexList indexes = WholeRows(*m_pListSelectionModel);
     if (indexes.isEmpty())
         indexes = m_pListSelectionModel->selectedIndexes();
     for (const QModelIndex& index : qAsConst(indexes))
@@ -186,6 +220,8 @@ QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
 QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFilters) const
 {
     QStringList paths;
+    if (!FileSystemItem::HasRootPath(*m_pListModel))
+        return paths;
     QDirIterator files(m_pListModel->rootPath(), nameFilters, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext())
         paths.append(files.next());
@@ -194,7 +230,7 @@ QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFi
 
 void CKTFileManager::OnTreeClicked(const QModelIndex& index)
 {
-    const QFileInfo folder(m_pTreeModel->filePath(index));
+    const QFileInfo folder(PathIn(*m_pTreeModel, index));
     m_eLastMenuFrom = FM_PART_TREE;
     const QPersistentModelIndex clicked(index);
     if (folder.exists() && m_pInterface)

@@ -5,6 +5,7 @@
 #include <KTFileManager2QU/TreeModel.h>
 
 #include <QMap>
+#include <QPointer>
 
 #include <memory>
 
@@ -116,7 +117,7 @@ public:
      */
     void ScanAliasTreeDirectory(const QModelIndex& parent);
 
-    /** Sets the watcher that the three operations below work on; it stays the caller's. */
+    /** Sets the watcher that the three operations below work on; it stays the caller's and may be deleted. */
     void SetFileSystemWatcher(QFileSystemWatcher* watcher);
 
     /** Watches an item's folder, when the item may be watched, the folder exists and is not watched yet. */
@@ -212,7 +213,7 @@ private:
     QMap<QString, QString> m_mapTranslate;
     std::unique_ptr<KT::CProfile> m_pNameProfile;
     CKTFMAliasTreeModelInterface* m_pInterface = nullptr;
-    QFileSystemWatcher* m_pWatcher = nullptr;
+    QPointer<QFileSystemWatcher> m_pWatcher;
     std::unique_ptr<HostImageCache> m_pHostImages;
 };
 

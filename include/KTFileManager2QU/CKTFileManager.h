@@ -167,7 +167,8 @@ public:
      * Makes a folder the root of the folder tree.
      *
      * The first call shows the tree alone; each later one also shows the folder in the file list. To fill the
-     * list right away, call it twice or follow it with SelectTreeItem.
+     * list right away, call it twice or follow it with SelectTreeItem. A folder that does not exist leaves
+     * the tree as it is, an empty path shows the drives in the tree alone.
      * @return true
      */
     bool SetDirectory(QString path);
@@ -216,9 +217,9 @@ public:
     bool IsFocus() const;
 
     /**
-     * @return the paths of the selected items of the file list, each once and in the order of selection, or,
-     * when
-     *         @p fromList is false, of the folder tree. Linear in the selection.
+     * @return the paths of the selected items of the file list, each once, or, when @p fromList is false, of
+     *         the folder tree, there once for each selected cell; both in the order of selection. Linear in
+     *         the selection.
      */
     QStringList GetCurSelectedFileList(bool fromList) const;
 
