@@ -253,7 +253,7 @@ void FileRowOrder::GatherTexts(const QModelIndex& index) const
         const QString text = TextOf(m_pSource->index(static_cast<int>(number), m_pFolder->column, parent));
         // A row that has no rank yet has a null text.
         isSame = isSame && !rows[number].text.isNull() && text == rows[number].text;
-        rows[number].text = text.isNull() ? QStringLiteral("") : text;
+        rows[number].text = text.isNull() ? QString(QLatin1String("")) : text;
     }
     if (!isSame)
         RankTexts(rows);
