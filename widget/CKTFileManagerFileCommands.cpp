@@ -44,10 +44,10 @@ QList<QUrl> ClipboardUrls()
 /** The folder that a list model shows; empty until it has been given one. */
 QString ShownFolder(const QFileSystemModel& model)
 {
-    return model.rootPath() == QLatin1String(".") ? QString() : model.rootPath();
+    return FileSystemItem::HasRootPath(model) ? model.rootPath() : QString();
 }
 
-/** An item's own path. The model's path of a linked folder is that of the folder, which must stay. */
+/** An item's own path. The model may name a linked folder by where it leads to, which is not the item. */
 QString OwnPath(const QFileSystemModel& model, const QModelIndex& index)
 {
     const QString path = model.fileInfo(index).absoluteFilePath();
@@ -151,7 +151,7 @@ CKTFileManager::Selected CKTFileManager::SelectedForCommand() const
         selected.indexes = SelectedListItems();
     selected.paths = PathsOfSelected(selected.indexes);
     selected.mimeData.reset(m_pProxy->mimeData(selected.indexes));
-    // A link is taken as itself: the model's data names the folder that it leads to.
+    // A link is taken as itself, and a single cell of a row as the whole item.
     selected.mimeData->setUrls(LocalPaths::UrlsOf(selected.paths));
     return selected;
 }
@@ -274,8 +274,9 @@ QModelIndex CKTFileManager::UnwatchAliasOf(const QString& folder)
     const QList<QModelIndex> items = m_pAliasTreeModel->IndexWithFilePath(folder);
     if (items.isEmpty())
         return QModelIndex();
-    RemovePathForFileSystemWatch(items.first());
-    return items.first();
+    const QModelIndex item = items.first().sibling(items.first().row(), 0);
+    RemovePathForFileSystemWatch(item);
+    return item;
 }
 
 bool CKTFileManager::DeleteFiles()
@@ -309,8 +310,8 @@ QModelIndex CKTFileManager::LeaveAliasFolder()
     RemovePathForFileSystemWatch(current);
     m_pAliasSelectionModel->setCurrentIndex(parent, QItemSelectionModel::SelectCurrent);
     const QString folder = m_pAliasTreeModel->GetMappedFolderPath(parent);
-    if (!folder.isEmpty())
-        SetDirectory(folder);
+    if (!folder.isEmpty() && QFileInfo(folder).isDir())
+        ShowFolder(folder);
     return parent;
 }
 

@@ -38,7 +38,9 @@ bool Copy(const QString& source, const QString& target)
     QTemporaryFile to(LocalPaths::In(QFileInfo(target).path(), QStringLiteral("copy.XXXXXX")));
     if (!to.open() || !CopyContent(from, to) || !to.flush())
         return false;
-    to.setPermissions(from.permissions());
+    // Of a file that is open, Qt also reports what this user may do with it; only what is stored is copied.
+    const QFile::Permissions ofThisUser = QFile::ReadUser | QFile::WriteUser | QFile::ExeUser;
+    to.setPermissions(from.permissions() & ~ofThisUser);
     if (!to.rename(target))
         return false;
     to.setAutoRemove(false);
