@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QDir>
+#include <QList>
 #include <QModelIndex>
 #include <QRect>
 #include <QSize>
@@ -32,6 +33,7 @@ class QMenu;
 class QSplitter;
 class QStackedWidget;
 class QTreeView;
+class QUrl;
 
 /**
  * A complete file-manager pane.
@@ -311,6 +313,34 @@ public:
      */
     bool SetCurrentAliasTreeSelection(QString strPath, const QModelIndex& start, bool, bool);
 
+    /**
+     * Runs a file command on the pane that was clicked last (SetLastMenuFrom).
+     *
+     * A command runs to its end before it returns; there is no undo and no recycle bin, and a deletion asks
+     * no one. Only a paste asks: once for each item whose name is taken, in an event loop of its own. What
+     * fails on disk is skipped without a message.
+     *
+     * - Copy and cut put the selected items on the clipboard as URLs; copying with nothing selected changes
+     *   nothing. Links are taken as themselves: a copy holds what they show.
+     * - Paste copies the URLs of the clipboard into the list's folder or the current alias folder. From a
+     *   cut of this widget until its next copy it moves them, whoever put them there. An item pasted into
+     *   its own folder is copied under another name. It ends quietly when the pane is destroyed, when the
+     *   clipboard changes, or when another paste begins while it asks.
+     * - Delete removes the selected items of the list, also after a click into the folder tree, or the
+     *   current alias folder. Links are removed as themselves, file-system roots never.
+     * - Select all selects the list's items, whichever pane was clicked.
+     * - Rename and new folder open an editor where the items are renamable; a new folder is made in the
+     *   folder tree's current one, and the list becomes the pane that commands act on.
+     *
+     * @return whether the command was run: false for a copy of nothing, for a paste that has no writable
+     *         folder, that would paste a folder into itself or that did not get its answers, for a folder
+     *         that could not be made, and for a value that is no command
+     */
+    bool DoCommand(EKTFMCommand eCommand);
+
+    /** @return whether the clipboard holds URLs, of whatever kind */
+    bool IsPasteable();
+
     /** The point lies in @p widget's rectangle, edges included, whether or not the widget is seen. */
     bool IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const;
 
@@ -393,6 +423,7 @@ protected:
 
 private:
     struct MenuPane;
+    struct Selected;
 
     void CreateTreeView();
     void CreateListView();
@@ -427,6 +458,26 @@ private:
     void ShowFolder(const QString& path);
     QAbstractItemView* ShownListView() const;
     void TellHostOfMenu(const QPoint& globalPos);
+
+    bool CopyFiles();
+    bool CutFiles();
+    bool Paste();
+    bool PasteFiles(QList<QUrl> urls, QString strDestFolder);
+    bool CopyFolder(QString strSrc, QString strDest, bool bCut);
+    bool CutCopyFile(QString strSrc, QString strDest, bool bCut);
+    bool DeleteFiles();
+    bool DeleteDirectory(QString strPath);
+    bool NewFolder(bool bInList);
+    bool Rename(bool);
+    bool SelectAll();
+
+    QModelIndexList SelectedListItems() const;
+    QStringList PathsOfSelected(const QModelIndexList& selected) const;
+    Selected SelectedForCommand() const;
+    QString PasteDestination() const;
+    QModelIndex UnwatchAliasOf(const QString& folder);
+    QModelIndex LeaveAliasFolder();
+    void RenameAlias();
 
     void AddPathForFileSystemWatch(const QModelIndex& index);
     void RemovePathForFileSystemWatch(const QModelIndex& index);
@@ -463,6 +514,8 @@ private:
     EKTFMPart m_eLastMenuFrom = FM_PART_LIST;
     bool m_bCustomViewMode = false;
     EKTFMViewMode m_eViewMode = FM_VIEW_DETAIL;
+    QStringList m_cutPaths; ///< the items of the last cut, until they have been pasted
+    bool m_bCut = false;    ///< whether a paste moves; a finished paste leaves it set
 };
 
 #endif
