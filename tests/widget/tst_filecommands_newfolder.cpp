@@ -219,6 +219,8 @@ void tst_FileCommandsNewFolder::renameOfNoPaneDoesNothing()
     QFETCH(bool, hasCurrent);
     if (hasCurrent)
         pane.Grid()->setCurrentIndex(pane.Index(QStringLiteral("a")));
+    else // A view that gets the focus makes its first item current, if it has one by then.
+        pane.Grid()->selectionModel()->clearCurrentIndex();
     pane.m_pPane->SetLastMenuFrom(part);
     QVERIFY(pane.Do(FM_CMD_RENAME));
     for (const QAbstractItemView* view : {static_cast<QAbstractItemView*>(pane.Grid()), pane.ShownList(),
