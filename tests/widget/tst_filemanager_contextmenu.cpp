@@ -193,7 +193,7 @@ void tst_FileManagerContextMenu::hiddenPanesDoNotAnswer()
     f.m_host.m_calls.clear();
     RightClick(f, f.m_pPane, hidden.center());
     QCOMPARE(f.MenuCalls().size(), 1);
-    QVERIFY(!f.MenuCalls().first().startsWith(QLatin1String("OnShowPopupMenu 1")));
+    QVERIFY(!f.MenuCalls().constFirst().startsWith(QLatin1String("OnShowPopupMenu 1")));
 }
 
 void tst_FileManagerContextMenu::emptyMenuIsNotShown()

@@ -592,7 +592,7 @@ void tst_FileManagerNavigation::listSelectionIsRelayed()
     QTest::keyClick(f.Grid(), Qt::Key_A, Qt::ControlModifier);
     QCOMPARE(f.m_host.m_calls, QStringList(QStringLiteral("OnListViewSelectionChanged +23 -0")));
     PaneFixture::Click(f.Grid(), f.ListIndex(QStringLiteral("b.txt")));
-    QCOMPARE(f.m_host.CallsOf(QStringLiteral("OnListViewSelectionChanged")).last(),
+    QCOMPARE(f.m_host.CallsOf(QStringLiteral("OnListViewSelectionChanged")).constLast(),
              QStringLiteral("OnListViewSelectionChanged +0 -23"));
 }
 
