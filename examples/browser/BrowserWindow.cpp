@@ -1,6 +1,9 @@
 #include "BrowserWindow.h"
 
+#include "AliasSample.h"
+#include "CommandActions.h"
 #include "FolderTrail.h"
+#include "Options.h"
 #include "Thumbnails.h"
 
 #include <KTFileManager2QU/KTFileManager2QU.h>
@@ -25,6 +28,9 @@ constexpr QSize WindowSize(1000, 640);
 /** The part of the width that the folder tree gets. */
 constexpr int TreePercent = 25;
 
+/** Renaming, tool tips and dragging, as SetFlagStatus takes them. */
+constexpr int AllInteractions = 1 | 2 | 4;
+
 /** How much of the palette's highlight colour shows behind a thumbnail, in per 255: light and dark palettes
     shine through. */
 constexpr int HoverAlpha = 50;
@@ -41,21 +47,20 @@ constexpr int HighlightRadius = 4;
 
 } // namespace
 
-BrowserWindow::BrowserWindow()
-    : m_pPane(
-          new CKTFileManager(this, QRect(QPoint(0, 0), WindowSize), FM_MODE_TREE_AND_LIST, TreePercent, true))
+BrowserWindow::BrowserWindow(const Options& options)
+    : m_pPane(new CKTFileManager(this, QRect(QPoint(0, 0), WindowSize), options.mode, TreePercent, true))
 {
-    // The pane leaves its models to the host; here nothing uses them without it.
-    m_pPane->GetListModel()->setParent(this);
-    m_pPane->GetTreeModel()->setParent(this);
-    m_pPane->GetAliasTreeModel()->setParent(this);
-    m_pThumbnails = std::make_unique<Thumbnails>(*m_pPane->GetListModel());
-    connect(m_pThumbnails.get(), &Thumbnails::Ready, this,
-            [this] { m_pPane->UpdateWnd(FM_UPDATE_LIST_VIEW); });
-    m_pPane->SetCallBackInterface(this, nullptr, m_pThumbnails.get(), nullptr);
+    GivePaneToHost();
+    m_pCommands = std::make_unique<CommandActions>(*m_pPane, *this);
     CreateTrail();
+    CreateToolBar();
     ColourThumbnails();
-    CreateViewActions();
+    m_pPane->SetFlagStatus(FM_PART_TREE | FM_PART_LIST | FM_PART_ALIAS_TREE, AllInteractions, true);
+    MapNames(options.names, options.tips);
+    m_pPane->PopulateAliasTable(options.aliasFile.isEmpty()
+                                    ? AliasSample(QDir(options.folder).absolutePath(), options.names.section)
+                                    : options.aliasFile);
+    connect(m_pPane, &CKTFileManager::OnError, this, [this](int, int, int error) { ShowError(error); });
     statusBar();
     resize(WindowSize);
 }
@@ -70,6 +75,29 @@ BrowserWindow::~BrowserWindow()
 CKTFileManager* BrowserWindow::Pane() const
 {
     return m_pPane;
+}
+
+void BrowserWindow::GivePaneToHost()
+{
+    // The pane leaves its models to the host; here nothing uses them without it.
+    m_pPane->GetListModel()->setParent(this);
+    m_pPane->GetTreeModel()->setParent(this);
+    m_pPane->GetAliasTreeModel()->setParent(this);
+    m_pThumbnails = std::make_unique<Thumbnails>(*m_pPane->GetListModel());
+    connect(m_pThumbnails.get(), &Thumbnails::Ready, this,
+            [this] { m_pPane->UpdateWnd(FM_UPDATE_LIST_VIEW); });
+    m_pPane->SetCallBackInterface(this, nullptr, m_pThumbnails.get(), nullptr);
+    m_pPane->SetParentForMsgBox(this);
+}
+
+void BrowserWindow::MapNames(const IniSection& names, const IniSection& tips)
+{
+    if (!names.file.isNull()) {
+        for (const EKTFMPart part : {FM_PART_TREE, FM_PART_LIST, FM_PART_ALIAS_TREE})
+            m_pPane->SetFilenameMappingINIFile(part, names.file, names.section);
+    }
+    if (!tips.file.isNull())
+        m_pPane->GetListModel()->SetFileTipsMappingFile(tips.file, tips.section);
 }
 
 void BrowserWindow::CreateTrail()
@@ -106,18 +134,25 @@ void BrowserWindow::changeEvent(QEvent* event)
     QMainWindow::changeEvent(event);
 }
 
-void BrowserWindow::CreateViewActions()
+void BrowserWindow::CreateToolBar()
 {
-    QToolBar* toolBar = addToolBar(tr("Navigation"));
+    QToolBar* toolBar = addToolBar(tr("Commands"));
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     QAction* up = toolBar->addAction(style()->standardIcon(QStyle::SP_FileDialogToParent), tr("Up"), this,
                                      &BrowserWindow::OpenParentFolder);
-    up->setShortcut(QKeySequence(static_cast<int>(Qt::ALT) | Qt::Key_Up));
+    up->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Up));
     toolBar->addSeparator();
+    AddViewActions(*toolBar);
+    toolBar->addSeparator();
+    toolBar->addActions(m_pCommands->All());
+}
+
+void BrowserWindow::AddViewActions(QToolBar& toolBar)
+{
     auto* views = new QActionGroup(this);
-    toolBar->addAction(AddViewAction(views, tr("Thumbnails"), FM_VIEW_ICON));
-    toolBar->addAction(AddViewAction(views, tr("Large thumbnails"), FM_VIEW_LARGE_ICON));
-    toolBar->addAction(AddViewAction(views, tr("Details"), FM_VIEW_DETAIL));
+    toolBar.addAction(AddViewAction(views, tr("Grid"), FM_VIEW_ICON));
+    toolBar.addAction(AddViewAction(views, tr("Large grid"), FM_VIEW_LARGE_ICON));
+    toolBar.addAction(AddViewAction(views, tr("Details"), FM_VIEW_DETAIL));
     views->actions().constFirst()->trigger();
 }
 
@@ -165,4 +200,18 @@ void BrowserWindow::OnListViewRootPathChanged(const QString& newPath)
     m_pTrailBar->UpdateCrumBar(m_pPane->GetTreeModel()->index(newPath), false);
     setWindowTitle(QDir::toNativeSeparators(newPath));
     statusBar()->showMessage(QDir::toNativeSeparators(newPath));
+}
+
+void BrowserWindow::OnShowPopupMenu(EKTFMMode pane, bool onItem)
+{
+    Q_UNUSED(pane)
+    m_pCommands->Fill(*m_pPane->GetContextMenu(), onItem);
+}
+
+void BrowserWindow::ShowError(int error)
+{
+    constexpr int displayTime = 8000;
+    statusBar()->showMessage(error == 0 ? tr("Something of that name is already there.")
+                                        : tr("That name cannot be given."),
+                             displayTime);
 }

@@ -9,10 +9,14 @@
 
 class CKTFileManager;
 class CTitleBarView;
+class CommandActions;
 class FolderTrail;
 class QAction;
 class QActionGroup;
+class QToolBar;
 class Thumbnails;
+struct IniSection;
+struct Options;
 
 /**
  * A small file browser around one pane.
@@ -25,7 +29,7 @@ class BrowserWindow : public QMainWindow, private CKTFMInterface
     Q_OBJECT
 
 public:
-    BrowserWindow();
+    explicit BrowserWindow(const Options& options);
     ~BrowserWindow() override;
 
     /** Shows a folder in tree and list. */
@@ -38,17 +42,23 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void GivePaneToHost();
+    void MapNames(const IniSection& names, const IniSection& tips);
     void CreateTrail();
+    void CreateToolBar();
     void ColourThumbnails();
-    void CreateViewActions();
+    void AddViewActions(QToolBar& toolBar);
     QAction* AddViewAction(QActionGroup* group, const QString& text, EKTFMViewMode mode);
     void ShowView(EKTFMViewMode mode);
     void OpenParentFolder();
 
     void OnLButtonDblClickListItem(QString absolutePath, bool isFolder) override;
     void OnListViewRootPathChanged(const QString& newPath) override;
+    void OnShowPopupMenu(EKTFMMode pane, bool onItem) override;
+    void ShowError(int error);
 
     CKTFileManager* m_pPane;
+    std::unique_ptr<CommandActions> m_pCommands;
     std::unique_ptr<FolderTrail> m_pTrail;
     std::unique_ptr<Thumbnails> m_pThumbnails;
     CTitleBarView* m_pTrailBar = nullptr;
