@@ -5,6 +5,7 @@
 #include <KTFileManager2QU/CKTFMTreeModel.h>
 
 #include "models/AliasFolder.h"
+#include "models/FileSystemItem.h"
 #include "widget/AliasTable.h"
 
 #include <QDir>
@@ -224,11 +225,11 @@ void CKTFileManager::OnAliasTreeClicked(const QModelIndex& index)
 
 void CKTFileManager::ShowFolder(const QString& path)
 {
+    const bool isFirst = !FileSystemItem::HasRootPath(*m_pTreeModel);
     SetDirectory(path);
     // The very first folder that the tree gets does not reach the list by itself.
-    const QModelIndex folder = m_pTreeModel->index(path);
-    if (m_pListModel->rootPath() != m_pTreeModel->filePath(folder))
-        SelectTreeItem(folder);
+    if (isFirst)
+        SetDirectory(path);
 }
 
 void CKTFileManager::OnAliasTreeDblClicked(const QModelIndex& index)

@@ -179,7 +179,9 @@ void BrowserWindow::OpenFolder(const QString& path)
 {
     const QString folder = QDir::cleanPath(QDir(path).absolutePath());
     m_pPane->SetDirectory(folder);
-    m_pPane->SelectTreeItem(m_pPane->GetTreeModel()->index(folder));
+    // The first folder that a pane is given fills the tree alone; given again, it fills the list.
+    if (m_pPane->GetListModel()->rootPath() != folder)
+        m_pPane->SetDirectory(folder);
 }
 
 void BrowserWindow::OpenParentFolder()

@@ -168,9 +168,9 @@ public:
     /**
      * Makes a folder the root of the folder tree.
      *
-     * The first call shows the tree alone; each later one also shows the folder in the file list. To fill the
-     * list right away, call it twice or follow it with SelectTreeItem. A folder that does not exist leaves
-     * the tree as it is, an empty path shows the drives in the tree alone.
+     * The first call shows the tree alone; each later one also makes the folder the tree's current one and
+     * shows it in the file list. To fill the list right away, call it twice. A folder that does not exist
+     * leaves the tree as it is, an empty path shows the drives in the tree alone.
      * @return true
      */
     bool SetDirectory(QString path);
