@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QDir>
+#include <QHash>
 #include <QList>
 #include <QModelIndex>
 #include <QRect>
@@ -425,6 +426,13 @@ private:
     struct MenuPane;
     struct Selected;
 
+    /** What becomes of alias tree items whose watches end: those that are kept still count for each other. */
+    enum class AliasFate
+    {
+        Kept,
+        Removed
+    };
+
     void CreateTreeView();
     void CreateListView();
     void CreateDetailView();
@@ -483,12 +491,15 @@ private:
     void RemovePathForFileSystemWatch(const QModelIndex& index);
     void ClearPathesForFileSystemWatcher();
     void Watch(const QModelIndexList& items);
-    void Unwatch(const QModelIndexList& items);
-    bool IsSeenElsewhere(const QModelIndex& item, const QModelIndexList& sameFolder) const;
+    void Unwatch(const QModelIndexList& items, AliasFate fate);
+    bool IsAliasSeen(const QModelIndex& item) const;
+    QHash<QString, int> SeenAliasFolders() const;
+    bool CanScanAlias(const QModelIndex& index) const;
     QModelIndexList AliasChildren(const QModelIndex& index) const;
     void AddScannedFolders(const QPersistentModelIndex& index, const QStringList& names);
     void RemoveUnlistedFolders(const QPersistentModelIndex& index, const QStringList& names);
-    void ReadAgainFromParent(const QPersistentModelIndex& parent, const QString& path, bool expanded);
+    void RemoveAliasItems(const QModelIndexList& siblings);
+    bool ReadAgainFromParent(const QPersistentModelIndex& item, bool expanded);
 
     QWidget* m_pMsgBoxParent = nullptr;
     QStackedWidget* m_pViewStack = nullptr;
