@@ -52,16 +52,29 @@ void VisitBranches(const QAbstractItemModel& model, const QModelIndexList& branc
     }
 }
 
-/** @return the item after the branch of @p item, on the way through the branch of @p top; invalid at its end */
-QModelIndex NextBranch(QModelIndex item, const QModelIndex& top)
+/**
+ * How many levels below its start a search opens. No path leads through more folders, while a view needs the
+ * square of the open levels in time, and stack for each.
+ */
+constexpr int MaxSearchLevels = 2048;
+
+/** A place in a walk through a branch, and how far below its top that is. */
+struct SearchStep
 {
-    while (item.isValid() && item != top) {
+    QPersistentModelIndex item;
+    int level;
+};
+
+/** @return the place after the branch below @p step, within the branch of @p top; without an item at its end */
+SearchStep StepOver(const SearchStep& step, const QModelIndex& top)
+{
+    int level = step.level;
+    for (QModelIndex item = step.item; item.isValid() && item != top; item = item.parent(), --level) {
         const QModelIndex next = item.sibling(item.row() + 1, 0);
         if (next.isValid())
-            return next;
-        item = item.parent();
+            return {next, level};
     }
-    return QModelIndex();
+    return {QModelIndex(), 0};
 }
 
 } // namespace
@@ -361,17 +374,18 @@ bool CKTFileManager::SetCurrentAliasTreeSelection(QString strPath, const QModelI
 {
     const QString wanted = strPath.toLower();
     const QPersistentModelIndex top = start.isValid() ? FirstCellOf(start) : m_pAliasTreeModel->index(0, 0);
-    QPersistentModelIndex item = top;
-    while (item.isValid()) {
-        const QString folder = m_pAliasTreeModel->GetMappedFolderPath(item).toLower();
+    SearchStep step{top, 0};
+    while (step.item.isValid()) {
+        const QString folder = m_pAliasTreeModel->GetMappedFolderPath(step.item).toLower();
         if (folder == wanted)
-            return SetCurrentAliasTreeSelection(item);
-        QModelIndex next;
-        if (!m_pAliasTreeModel->CanFileSysWatch(item) || wanted.startsWith(folder)) {
-            m_pAliasTreeView->expand(item);
-            next = m_pAliasTreeModel->index(0, 0, item);
+            return SetCurrentAliasTreeSelection(step.item);
+        const bool mayHold = !m_pAliasTreeModel->CanFileSysWatch(step.item) || wanted.startsWith(folder);
+        QModelIndex child;
+        if (mayHold && step.level < MaxSearchLevels) {
+            m_pAliasTreeView->expand(step.item);
+            child = m_pAliasTreeModel->index(0, 0, step.item);
         }
-        item = next.isValid() ? next : NextBranch(item, top);
+        step = child.isValid() ? SearchStep{child, step.level + 1} : StepOver(step, top);
     }
     return false;
 }

@@ -13,20 +13,24 @@ namespace {
 const QStringList Top{QStringLiteral("Top")};
 
 /** More levels than a stack of the usual size has frames. */
-constexpr int DeepTable = 100000;
+constexpr int DeepTree = 100000;
+
+/** As many folders as a path of 4096 characters leads through. */
+constexpr int MostLevels = 2048;
 
 QStringList TopAnd(const QString& label)
 {
     return {Top.first(), label};
 }
 
-/** Puts one item below the other, each without a folder. */
-void DeepenBy(CKTFMAliasTreeModel* model, QModelIndex item, int levels)
+/** Puts one item below the other, each without a folder. @return the last one */
+QModelIndex DeepenBy(CKTFMAliasTreeModel* model, QModelIndex item, int levels)
 {
     for (int level = 0; level < levels; ++level) {
         item = model->AddAliasItem(item, QStringLiteral("level"), QString(), QString(), false, FM_OP_RENAME,
                                    QVariant());
     }
+    return item;
 }
 
 } // namespace
@@ -47,7 +51,8 @@ private Q_SLOTS:
     void loadShowsTheLabelsAlone();
     void loadOpensEachTopLevelItem();
     void loadWhileAnEditorIsOpenDropsTheEdit();
-    void deepTreeIsSearched();
+    void deepTreeNeitherHangsNorOverflows();
+    void searchReachesAsManyLevelsAsAPathHas();
 
     void scanLeavesOutFilesLinksAndHiddenFolders();
     void scanKeepsTheOrderOfTheDisk();
@@ -195,17 +200,29 @@ void tst_FileManagerAliasTree::loadWhileAnEditorIsOpenDropsTheEdit()
     QCOMPARE(pane.Watched(), pane.Paths({QString(), QStringLiteral("A")}));
 }
 
-void tst_FileManagerAliasTree::deepTreeIsSearched()
+void tst_FileManagerAliasTree::deepTreeNeitherHangsNorOverflows()
 {
     AliasPane pane;
     QVERIFY(pane.LoadTop());
     QVERIFY(pane.Show());
-    DeepenBy(pane.Model(), pane.Item(Top), DeepTable);
-    QVERIFY(!pane.m_pPane->SetCurrentAliasTreeSelection(pane.m_folder.Path() + QStringLiteral("/x"),
-                                                        QModelIndex(), false, false));
+    DeepenBy(pane.Model(), pane.Item(Top), DeepTree);
+    const QString path = pane.m_folder.Path(QStringLiteral("missing"));
+    QVERIFY(!pane.m_pPane->SetCurrentAliasTreeSelection(path, QModelIndex(), false, false));
     pane.m_pPane->OnDirectoryChanged(pane.m_folder.Path());
     pane.m_pPane->OnAliasTreeDblClicked(pane.Item(Top));
+    pane.AliasTree()->collapse(pane.Item(Top));
     QVERIFY(pane.m_pPane->PopulateAliasTable(QString()));
+}
+
+void tst_FileManagerAliasTree::searchReachesAsManyLevelsAsAPathHas()
+{
+    AliasPane pane;
+    QVERIFY(pane.m_pPane->PopulateAliasTable(QStringLiteral("Top\n")));
+    QVERIFY(pane.Show());
+    const QModelIndex last = DeepenBy(pane.Model(), pane.Item(Top), MostLevels);
+    pane.Model()->TreeModel::setData(last.sibling(0, 1), QStringLiteral("/deep"));
+    QVERIFY(pane.m_pPane->SetCurrentAliasTreeSelection(QStringLiteral("/deep"), QModelIndex(), false, false));
+    QCOMPARE(pane.m_pPane->GetCurSelectedAliasIndex(), last);
 }
 
 void tst_FileManagerAliasTree::scanLeavesOutFilesLinksAndHiddenFolders()
