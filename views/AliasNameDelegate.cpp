@@ -17,6 +17,13 @@ bool IsTab(const QEvent& event)
 
 AliasNameDelegate::AliasNameDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
 
+QWidget* AliasNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                                         const QModelIndex& index) const
+{
+    Q_EMIT EditBegins(index);
+    return QStyledItemDelegate::createEditor(parent, option, index);
+}
+
 bool AliasNameDelegate::eventFilter(QObject* object, QEvent* event)
 {
     auto* editor = qobject_cast<QWidget*>(object);

@@ -17,6 +17,13 @@ class AliasNameDelegate : public QStyledItemDelegate
 public:
     explicit AliasNameDelegate(QObject* parent = nullptr);
 
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override;
+
+Q_SIGNALS:
+    /** An editor opens on an item, by whatever way. */
+    void EditBegins(const QModelIndex& index) const;
+
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 };

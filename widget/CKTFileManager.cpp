@@ -118,7 +118,9 @@ void CKTFileManager::CreateAliasTreeView()
     m_pAliasTreeView->setUniformRowHeights(true);
     m_pAliasTreeView->setItemsExpandable(true);
     m_pAliasTreeView->setEditTriggers(QAbstractItemView::DoubleClicked);
-    m_pAliasTreeView->setItemDelegate(new AliasNameDelegate(m_pAliasTreeView));
+    auto* delegate = new AliasNameDelegate(m_pAliasTreeView);
+    connect(delegate, &AliasNameDelegate::EditBegins, this, &CKTFileManager::PrepareAliasEdit);
+    m_pAliasTreeView->setItemDelegate(delegate);
 }
 
 void CKTFileManager::CreateLayout(const QRect& rect, int leftPanePercent)

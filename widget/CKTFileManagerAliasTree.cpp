@@ -322,6 +322,14 @@ void CKTFileManager::OnAliasTreeViewSelectionChanged(const QItemSelection& selec
     Q_UNUSED(deselected)
 }
 
+void CKTFileManager::PrepareAliasEdit(const QModelIndex& index)
+{
+    // Hosts open editors by the view as well; however it opens, what closes is the current item's editor.
+    RemovePathForFileSystemWatch(index);
+    if (index != GetCurSelectedAliasIndex())
+        SetCurrentAliasTreeSelection(index);
+}
+
 void CKTFileManager::OnAliasTreeCloseEditor()
 {
     const QPersistentModelIndex current = FirstCellOf(GetCurSelectedAliasIndex());

@@ -499,6 +499,7 @@ private:
     void AddScannedFolders(const QPersistentModelIndex& index, const QStringList& names);
     void RemoveUnlistedFolders(const QPersistentModelIndex& index, const QStringList& names);
     void RemoveAliasItems(const QModelIndexList& siblings);
+    void PrepareAliasEdit(const QModelIndex& index);
     bool ReadAgainFromParent(const QPersistentModelIndex& item, bool expanded);
 
     QWidget* m_pMsgBoxParent = nullptr;

@@ -86,8 +86,9 @@ private Q_SLOTS:
     void renamedTopLevelItemIsWatchedUnderItsNewName();
     void itemBelowAHeadingKeepsItsRow();
     void childrenThatNoScanFindsAreKept();
-    void editorOpenedByTheHostLeavesNoStaleWatch();
+    void editorOpenedByTheHostIsLikeAnyOther();
     void folderRemovedDuringTheEditIsGoneAfterIt();
+    void renameCommandEditsTheCurrentItem();
     void paneMayDieWithAnOpenEditor();
 };
 
@@ -408,15 +409,17 @@ void tst_FileManagerAliasEditing::childrenThatNoScanFindsAreKept()
     QCOMPARE(pane.Watched(), QStringList());
 }
 
-void tst_FileManagerAliasEditing::editorOpenedByTheHostLeavesNoStaleWatch()
+void tst_FileManagerAliasEditing::editorOpenedByTheHostIsLikeAnyOther()
 {
     EditedPane pane;
     QVERIFY(pane.Start());
     const QModelIndex item = pane.Item(TopAnd(QStringLiteral("A")));
     pane.AliasTree()->expand(item);
-    pane.AliasTree()->setCurrentIndex(item);
+    pane.AliasTree()->setCurrentIndex(pane.Item(Top));
     pane.AliasTree()->edit(item);
     QVERIFY(pane.Editor());
+    QCOMPARE(pane.m_pPane->GetCurSelectedAliasIndex(), item);
+    QCOMPARE(pane.Watched(), pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B")}));
     QVERIFY(pane.Type(QStringLiteral("Z"), Qt::Key_Return));
     QTRY_COMPARE(pane.Watched(), pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B"),
                                              QStringLiteral("Top/Z"), QStringLiteral("Top/Z/a")}));
@@ -431,6 +434,20 @@ void tst_FileManagerAliasEditing::folderRemovedDuringTheEditIsGoneAfterIt()
     QVERIFY(pane.Type(QStringLiteral("Z"), Qt::Key_Return));
     QTRY_COMPARE(pane.Labels(Top), QStringList(QStringLiteral("B")));
     QTRY_COMPARE(pane.Watched(), pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B")}));
+}
+
+void tst_FileManagerAliasEditing::renameCommandEditsTheCurrentItem()
+{
+    EditedPane pane;
+    QVERIFY(pane.Start());
+    PaneFixture::Click(pane.AliasTree(), pane.Item(TopAnd(QStringLiteral("A"))));
+    QVERIFY(pane.m_pPane->DoCommand(FM_CMD_RENAME));
+    QVERIFY(pane.Editor());
+    QCOMPARE(pane.Watched(), pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B")}));
+    QVERIFY(pane.Type(QStringLiteral("Z"), Qt::Key_Return));
+    QCOMPARE(pane.Labels(Top), QStringList({QStringLiteral("B"), QStringLiteral("Z")}));
+    QTRY_COMPARE(pane.Watched(),
+                 pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B"), QStringLiteral("Top/Z")}));
 }
 
 void tst_FileManagerAliasEditing::paneMayDieWithAnOpenEditor()
