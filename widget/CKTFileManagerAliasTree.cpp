@@ -65,7 +65,8 @@ struct SearchStep
     int level;
 };
 
-/** @return the place after the branch below @p step, within the branch of @p top; without an item at its end */
+/** @return the place after the branch below @p step, within the branch of @p top; without an item at its end
+ */
 SearchStep StepOver(const SearchStep& step, const QModelIndex& top)
 {
     int level = step.level;
@@ -239,7 +240,8 @@ QHash<QString, int> CKTFileManager::SeenAliasFolders() const
         const int count = m_pAliasTreeModel->rowCount(parent);
         const bool isOpen = !parent.isValid() || m_pAliasTreeView->isExpanded(parent);
         for (int row = 0; isOpen && row < count; ++row)
-            ++seen[Normalised(m_pAliasTreeModel->GetMappedFolderPath(m_pAliasTreeModel->index(row, 0, parent)))];
+            ++seen[Normalised(
+                m_pAliasTreeModel->GetMappedFolderPath(m_pAliasTreeModel->index(row, 0, parent)))];
         return count > 0;
     });
     return seen;
@@ -255,7 +257,8 @@ void CKTFileManager::ClearPathesForFileSystemWatcher()
 void CKTFileManager::OnDirectoryChanged(const QString& path)
 {
     const QString folder = Normalised(path);
-    // A folder that has vanished leaves nothing to scan; when many do, the tree need not be searched for each.
+    // A folder that has vanished leaves nothing to scan; when many do, the tree need not be searched for
+    // each.
     if (!QFileInfo(folder).isDir())
         return;
     QList<QPersistentModelIndex> items;

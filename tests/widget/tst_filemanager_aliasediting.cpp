@@ -89,6 +89,7 @@ private Q_SLOTS:
     void editorOpenedByTheHostIsLikeAnyOther();
     void folderRemovedDuringTheEditIsGoneAfterIt();
     void renameCommandEditsTheCurrentItem();
+    void doubleClickMakesTheAliasTreeThePaneOfCommands();
     void paneMayDieWithAnOpenEditor();
 };
 
@@ -448,6 +449,18 @@ void tst_FileManagerAliasEditing::renameCommandEditsTheCurrentItem()
     QCOMPARE(pane.Labels(Top), QStringList({QStringLiteral("B"), QStringLiteral("Z")}));
     QTRY_COMPARE(pane.Watched(),
                  pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B"), QStringLiteral("Top/Z")}));
+}
+
+void tst_FileManagerAliasEditing::doubleClickMakesTheAliasTreeThePaneOfCommands()
+{
+    EditedPane pane;
+    QVERIFY(pane.Start());
+    const QModelIndex item = pane.Item(TopAnd(QStringLiteral("A")));
+    QVERIFY(pane.m_pPane->SetCurrentAliasTreeSelection(item));
+    pane.m_pPane->SetLastMenuFrom(FM_PART_TREE);
+    pane.m_pPane->OnAliasTreeDblClicked(item);
+    QVERIFY(pane.m_pPane->DoCommand(FM_CMD_RENAME));
+    QVERIFY(pane.Editor());
 }
 
 void tst_FileManagerAliasEditing::paneMayDieWithAnOpenEditor()

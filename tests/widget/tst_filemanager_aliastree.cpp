@@ -511,9 +511,9 @@ void tst_FileManagerAliasTree::searchOpensTheBranchesOnItsWay()
     QVERIFY(!pane.IsOpen(way));
     QCOMPARE(pane.m_pPane->GetCurSelectedAliasIndex(), pane.Item(way));
     QVERIFY(!pane.IsOpen(TopAnd(QStringLiteral("Other"))));
-    QCOMPARE(pane.Watched(), pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/b"),
-                                         QStringLiteral("A/b/c"), QStringLiteral("A/b/c/d"),
-                                         QStringLiteral("Other")}));
+    QCOMPARE(pane.Watched(),
+             pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/b"), QStringLiteral("A/b/c"),
+                         QStringLiteral("A/b/c/d"), QStringLiteral("Other")}));
 }
 
 void tst_FileManagerAliasTree::searchWithoutStartLooksAtTheFirstTopLevelItemOnly()

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void manyRemovedFoldersEndTheirWatches();
     void changesDuringAnEditAreFollowed();
 
+    void deletedFolderIsUnwatchedAndDisappears();
+
     void paneDiesWithItsWatches();
     void modelMayBeUsedAfterThePane();
 };
@@ -137,8 +139,8 @@ void tst_FileManagerAliasWatching::expandWatchesTheChildren()
     pane.m_folder.Folder(QStringLiteral("A/b"));
     QVERIFY(pane.LoadTop());
     pane.AliasTree()->expand(pane.Item(TopAnd(QStringLiteral("A"))));
-    QCOMPARE(pane.Watched(), pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/a"),
-                                         QStringLiteral("A/b")}));
+    QCOMPARE(pane.Watched(),
+             pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/a"), QStringLiteral("A/b")}));
 }
 
 void tst_FileManagerAliasWatching::expandFillsTheChildrenOneLevelAhead()
@@ -200,8 +202,8 @@ void tst_FileManagerAliasWatching::reopenedBranchIsWatchedToItsOpenDepth()
     QVERIFY(pane.LoadTop());
     QVERIFY(pane.m_pPane->SetCurrentAliasTreeSelection(deep, QModelIndex(), false, false));
     const QStringList watched = pane.Watched();
-    QCOMPARE(watched, pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/b"),
-                                  QStringLiteral("A/b/c")}));
+    QCOMPARE(watched,
+             pane.Paths({QString(), QStringLiteral("A"), QStringLiteral("A/b"), QStringLiteral("A/b/c")}));
     pane.AliasTree()->collapse(pane.Item(Top));
     QCOMPARE(pane.Watched(), pane.Paths({QString()}));
     pane.AliasTree()->expand(pane.Item(Top));
@@ -213,7 +215,8 @@ void tst_FileManagerAliasWatching::folderSeenInAnotherBranchStaysWatched()
     const AliasPane pane;
     const QString shared = pane.m_folder.Folder(QStringLiteral("shared"));
     const QString line = QLatin1Char(' ') + AliasLine(QStringLiteral("Shared"), shared);
-    QVERIFY(pane.m_pPane->PopulateAliasTable(QStringLiteral("One\n") + line + QStringLiteral("Two\n") + line));
+    QVERIFY(
+        pane.m_pPane->PopulateAliasTable(QStringLiteral("One\n") + line + QStringLiteral("Two\n") + line));
     QCOMPARE(pane.Watched(), pane.Paths({QStringLiteral("shared")}));
     pane.AliasTree()->collapse(pane.Model()->index(0, 0));
     QCOMPARE(pane.Watched(), pane.Paths({QStringLiteral("shared")}));
@@ -284,7 +287,8 @@ void tst_FileManagerAliasWatching::removedBranchIsUnwatched()
     const AliasPane pane;
     const QString deep = pane.m_folder.Folder(QStringLiteral("A/b/c"));
     pane.m_folder.Folder(QStringLiteral("elsewhere"));
-    QVERIFY(pane.m_pPane->PopulateAliasTable(AliasLine(Top.first(), pane.m_folder.Path(QStringLiteral("A")))));
+    QVERIFY(
+        pane.m_pPane->PopulateAliasTable(AliasLine(Top.first(), pane.m_folder.Path(QStringLiteral("A")))));
     QVERIFY(pane.m_pPane->SetCurrentAliasTreeSelection(deep, QModelIndex(), false, false));
     QCOMPARE(pane.Watched().size(), 3);
     // A folder that is moved away lives on, and the folders below it are not told.
@@ -434,6 +438,23 @@ void tst_FileManagerAliasWatching::changesDuringAnEditAreFollowed()
     QTRY_COMPARE(pane.Labels(Top), QStringList(QStringLiteral("B")));
     QTRY_VERIFY(!pane.Editor());
     QCOMPARE(pane.Watched(), pane.Paths({QString(), QStringLiteral("B")}));
+}
+
+void tst_FileManagerAliasWatching::deletedFolderIsUnwatchedAndDisappears()
+{
+    AliasPane pane;
+    pane.m_folder.Folder(QStringLiteral("A/a"));
+    pane.m_folder.Folder(QStringLiteral("B"));
+    QVERIFY(pane.LoadTop());
+    QVERIFY(pane.Show());
+    pane.AliasTree()->expand(pane.Item(TopAnd(QStringLiteral("A"))));
+    PaneFixture::Click(pane.AliasTree(), pane.Item(TopAnd(QStringLiteral("A"))));
+    QVERIFY(pane.m_pPane->DoCommand(FM_CMD_DELETE));
+    QVERIFY(!QFileInfo::exists(pane.m_folder.Path(QStringLiteral("A"))));
+    QTRY_COMPARE(pane.Labels(Top), QStringList(QStringLiteral("B")));
+    QTRY_COMPARE(pane.Watched(), pane.Paths({QString(), QStringLiteral("B")}));
+    QVERIFY(pane.IsOpen(Top));
+    QCOMPARE(pane.m_pPane->GetCurSelectedAliasIndex(), pane.Item(Top));
 }
 
 void tst_FileManagerAliasWatching::paneDiesWithItsWatches()
