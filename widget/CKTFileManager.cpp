@@ -6,6 +6,7 @@
 #include <KTFileManager2QU/CKTFMTreeModel.h>
 
 #include "models/CMySortFilterProxyModel.h"
+#include "views/AliasNameDelegate.h"
 #include "views/CKTListView.h"
 #include "views/CKTTreeView.h"
 #include "widget/IconSizes.h"
@@ -60,7 +61,13 @@ CKTFileManager::CKTFileManager(QWidget* parent, QRect rect, EKTFMMode mode, int 
     ConnectAliasTree();
 }
 
-CKTFileManager::~CKTFileManager() = default;
+CKTFileManager::~CKTFileManager()
+{
+    // The parts die after this object has ended, and some tell of it: an open editor that it closes.
+    const QList<QObject*> parts = findChildren<QObject*>();
+    for (const QObject* part : parts)
+        disconnect(part, nullptr, this, nullptr);
+}
 
 void CKTFileManager::CreateTreeView()
 {
@@ -111,6 +118,9 @@ void CKTFileManager::CreateAliasTreeView()
     m_pAliasTreeView->setUniformRowHeights(true);
     m_pAliasTreeView->setItemsExpandable(true);
     m_pAliasTreeView->setEditTriggers(QAbstractItemView::DoubleClicked);
+    auto* delegate = new AliasNameDelegate(m_pAliasTreeView);
+    connect(delegate, &AliasNameDelegate::EditBegins, this, &CKTFileManager::PrepareAliasEdit);
+    m_pAliasTreeView->setItemDelegate(delegate);
 }
 
 void CKTFileManager::CreateLayout(const QRect& rect, int leftPanePercent)

@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QDir>
+#include <QHash>
 #include <QList>
 #include <QModelIndex>
 #include <QRect>
@@ -297,7 +298,9 @@ public:
      *
      * A sub-folder without an item gets one; hidden folders and links get none. An item whose label is no
      * sub-folder's name is removed, but of two such items in a row only the first: the next scan removes the
-     * other. In an expanded branch new items are scanned and watched at once.
+     * other. In an expanded branch new items are scanned and watched at once. Nothing
+     * changes when the item may not be watched, has no folder, or the folder is gone or cannot be read.
+     * @param index any cell of the item
      */
     void ScanForAliasTreeDirectories(const QModelIndex& index);
 
@@ -306,7 +309,8 @@ public:
 
     /**
      * Finds the item that maps to a folder, in any letter case, and makes it current. Branches are expanded,
-     * and so scanned, along the search and stay so when it fails.
+     * and so scanned, along the search and stay so when it fails. It goes 2048 levels deep, more than a path
+     * has.
      *
      * @param start where to search; an invalid index stands for the first top-level item alone
      * @return whether it was found. The last two arguments are accepted and passed over.
@@ -368,7 +372,9 @@ public Q_SLOTS:
     /** An item of the alias tree was clicked or activated: its folder is shown in the file list. */
     void OnAliasTreeClicked(const QModelIndex& index);
 
-    /** An item of the alias tree was double-clicked: its branch is no longer watched while it may be renamed.
+    /**
+     * An item of the alias tree was double-clicked: its branch is no longer watched while it may be renamed.
+     * When no editor opens, it is watched again as soon as control has returned to the event loop.
      */
     void OnAliasTreeDblClicked(const QModelIndex& index);
 
@@ -405,7 +411,11 @@ public Q_SLOTS:
     /** A branch of the alias tree was collapsed: what is below it is no longer watched. */
     void OnAliasTreeCollapsed(const QModelIndex& index);
 
-    /** A rename in the alias tree has ended: the item is read again from the disk. */
+    /**
+     * An edit in the alias tree has ended, renamed or not: the current item is read again from the disk.
+     * Where its parent's folder is scanned it gets a new row, behind its siblings; else it keeps its row. Its
+     * folder is shown in the file list.
+     */
     void OnAliasTreeCloseEditor();
 
 Q_SIGNALS:
@@ -424,6 +434,13 @@ protected:
 private:
     struct MenuPane;
     struct Selected;
+
+    /** What becomes of alias tree items whose watches end: those that are kept still count for each other. */
+    enum class AliasFate
+    {
+        Kept,
+        Removed
+    };
 
     void CreateTreeView();
     void CreateListView();
@@ -483,12 +500,16 @@ private:
     void RemovePathForFileSystemWatch(const QModelIndex& index);
     void ClearPathesForFileSystemWatcher();
     void Watch(const QModelIndexList& items);
-    void Unwatch(const QModelIndexList& items);
-    bool IsSeenElsewhere(const QModelIndex& item, const QModelIndexList& sameFolder) const;
+    void Unwatch(const QModelIndexList& items, AliasFate fate);
+    bool IsAliasSeen(const QModelIndex& item) const;
+    QHash<QString, int> SeenAliasFolders() const;
+    bool CanScanAlias(const QModelIndex& index) const;
     QModelIndexList AliasChildren(const QModelIndex& index) const;
     void AddScannedFolders(const QPersistentModelIndex& index, const QStringList& names);
     void RemoveUnlistedFolders(const QPersistentModelIndex& index, const QStringList& names);
-    void ReadAgainFromParent(const QPersistentModelIndex& parent, const QString& path, bool expanded);
+    void RemoveAliasItems(const QModelIndexList& siblings);
+    void PrepareAliasEdit(const QModelIndex& index);
+    bool ReadAgainFromParent(const QPersistentModelIndex& item, bool expanded);
 
     QWidget* m_pMsgBoxParent = nullptr;
     QStackedWidget* m_pViewStack = nullptr;

@@ -5,15 +5,16 @@
 
 /**
  * While it lives, a test that runs as root acts as a user without rights, whom permissions stop. The change
- * holds for all threads. A test that is run by anyone else is not changed.
+ * holds for all threads, and for the real user too, whom "may I read this" is answered for. A test that is
+ * run by anyone else is not changed.
  */
 class WithoutRoot
 {
 public:
-    WithoutRoot() : m_wasRoot(geteuid() == 0 && seteuid(Nobody) == 0) {}
+    WithoutRoot() : m_wasRoot(geteuid() == 0 && setresuid(Nobody, Nobody, 0) == 0) {}
     ~WithoutRoot()
     {
-        if (m_wasRoot && seteuid(0) != 0)
+        if (m_wasRoot && setresuid(0, 0, 0) != 0)
             _exit(1);
     }
     WithoutRoot(const WithoutRoot&) = delete;
