@@ -1,6 +1,7 @@
 #include "models/AliasFolder.h"
 
 #include "models/FileNameRules.h"
+#include "models/FileSystemItem.h"
 #include "models/RenameErrorEvents.h"
 
 #include <QDir>
@@ -19,12 +20,6 @@ QString PathIn(const QString& folder, const QString& name)
 QLatin1String ShortcutEnd()
 {
     return QLatin1String(".lnk");
-}
-
-bool IsTaken(const QString& path)
-{
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink(); // a link to nothing takes the name as well
 }
 
 } // namespace
@@ -82,13 +77,14 @@ QString RenamedPath(const QFileInfo& folder, const QString& newName)
 
 std::optional<RenameError> Rename(const QFileInfo& folder, const QString& newName)
 {
-    if (folder.filePath().isEmpty() || FileNameRules::HasSeparator(newName))
+    const bool canBeName = !FileNameRules::HasSeparator(newName) && FileNameRules::IsRepresentable(newName);
+    if (folder.filePath().isEmpty() || !canBeName)
         return RenameError::RenameFailed;
     const QString target = RenamedPath(folder, newName);
     const QString baseName = QFileInfo(target).completeBaseName();
     if (baseName.isEmpty() || FileNameRules::HasForbiddenCharacter(baseName))
         return RenameError::RenameFailed;
-    if (IsTaken(target))
+    if (FileSystemItem::IsTaken(target))
         return RenameError::NameExists;
     if (!QFile::rename(folder.absoluteFilePath(), target))
         return RenameError::RenameFailed;

@@ -1162,6 +1162,8 @@ void tst_AliasTreeModel::renameToABadNameReportsLater_data()
     QTest::newRow("sideways") << QStringLiteral("../elsewhere");
     QTest::newRow("separator behind a dot") << QStringLiteral("a.b/c");
     QTest::newRow("too long") << QString(300, QLatin1Char('x'));
+    QTest::newRow("null character") << QStringLiteral("a") + QChar(QChar::Null) + QStringLiteral("b");
+    QTest::newRow("half a surrogate pair") << QStringLiteral("a") + QChar(0xD83D);
 }
 
 void tst_AliasTreeModel::renameToABadNameReportsLater()
