@@ -133,7 +133,7 @@ void OfferTree()
 void PasteTreeByCommand(benchmark::State& state)
 {
     Pane pane;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         OfferTree();
         state.ResumeTiming();
@@ -146,7 +146,7 @@ void PasteTreeByCommand(benchmark::State& state)
 
 void PasteTreeByCp(benchmark::State& state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         CopyBeside();
         state.PauseTiming();
         RemoveBeside();
@@ -157,7 +157,7 @@ void PasteTreeByCp(benchmark::State& state)
 void DeleteTreeByCommand(benchmark::State& state)
 {
     Pane pane;
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         CopyBeside();
         pane.SelectTree();
@@ -168,7 +168,7 @@ void DeleteTreeByCommand(benchmark::State& state)
 
 void DeleteTreeByRm(benchmark::State& state)
 {
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         state.PauseTiming();
         CopyBeside();
         state.ResumeTiming();

@@ -145,7 +145,7 @@ public:
                 QTest::ignoreMessage(QtWarningMsg, "This plugin does not support propagateSizeHints()");
         }
         m_timer.setInterval(5);
-        QObject::connect(&m_timer, &QTimer::timeout, [this] { AnswerNext(); });
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { AnswerNext(); });
         m_timer.start();
     }
 

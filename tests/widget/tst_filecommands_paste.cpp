@@ -353,7 +353,7 @@ void tst_FileCommandsPaste::cancelAtTheSecondPromptPastesNothing()
 {
     CommandPane pane;
     QStringList sources;
-    for (const QString& name : Words(QStringLiteral("a b c"))) {
+    for (const QString& name : {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}) {
         pane.m_folder.File(QStringLiteral("shown/") + name, "old");
         sources.append(pane.m_folder.File(QStringLiteral("out/") + name, "new"));
     }
@@ -428,7 +428,7 @@ void tst_FileCommandsPaste::pathAnywhereInTheDestinationRefusesThePaste()
 {
     CommandPane pane;
     // "…/show" is no folder above "…/shown", and "…/SHOW" is not even a part of its path: both count.
-    for (const QString& name : Words(QStringLiteral("show SHOW"))) {
+    for (const QString& name : {QStringLiteral("show"), QStringLiteral("SHOW")}) {
         QVERIFY(pane.Open(0));
         OfferPaths({pane.m_folder.Folder(name)});
         QVERIFY(!pane.Do(FM_CMD_PASTE));

@@ -29,6 +29,14 @@ void MakeSocket(const QString& path)
     close(socketFile);
 }
 
+/** A file that is written at once, and one that is written beside its target first. */
+void AddSizes()
+{
+    QTest::addColumn<int>("size");
+    QTest::newRow("small") << 50000;
+    QTest::newRow("large") << 300000;
+}
+
 QStringList Names(const QString& folder)
 {
     return QDir(folder).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -43,11 +51,15 @@ class tst_FileCopy : public QObject
 private Q_SLOTS:
     void copiesEveryByte_data();
     void copiesEveryByte();
+    void copiesPermissions_data();
     void copiesPermissions();
     void linkIsReadThrough();
+    void neverOverwrites_data();
     void neverOverwrites();
+    void neverWritesThroughALinkToNothing_data();
     void neverWritesThroughALinkToNothing();
     void missingFolderFails();
+    void fullDiskLeavesNothingBehind_data();
     void fullDiskLeavesNothingBehind();
     void pipesSocketsAndDevicesAreNotOpened();
     void folderIsNotAFile();
@@ -56,7 +68,7 @@ private Q_SLOTS:
 void tst_FileCopy::copiesEveryByte_data()
 {
     QTest::addColumn<int>("size");
-    for (const int size : {0, 1, 65535, 65536, 65537, 1000003})
+    for (const int size : {0, 1, 65535, 65536, 65537, 131072, 1000003})
         QTest::newRow(qPrintable(QString::number(size))) << size;
 }
 
@@ -75,10 +87,16 @@ void tst_FileCopy::copiesEveryByte()
     QCOMPARE(Names(folder.Path(QStringLiteral("to"))), QStringList(QStringLiteral("copy")));
 }
 
+void tst_FileCopy::copiesPermissions_data()
+{
+    AddSizes();
+}
+
 void tst_FileCopy::copiesPermissions()
 {
     const TestFolder folder;
-    const QString script = folder.File(QStringLiteral("script"), "#!/bin/sh");
+    QFETCH(int, size);
+    const QString script = folder.File(QStringLiteral("script"), QByteArray(size, 'x'));
     const QFile::Permissions permissions = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup;
     QVERIFY(QFile::setPermissions(script, permissions));
     QVERIFY(FileCopy::Copy(script, folder.Path(QStringLiteral("copy"))));
@@ -96,21 +114,34 @@ void tst_FileCopy::linkIsReadThrough()
     QVERIFY(!QFileInfo(folder.Path(QStringLiteral("copy"))).isSymLink());
 }
 
+void tst_FileCopy::neverOverwrites_data()
+{
+    AddSizes();
+}
+
 void tst_FileCopy::neverOverwrites()
 {
     const TestFolder folder;
-    const QString from = folder.File(QStringLiteral("from"), "new");
+    QFETCH(int, size);
+    const QByteArray content(size, 'n');
+    const QString from = folder.File(QStringLiteral("from"), content);
     QVERIFY(!FileCopy::Copy(from, folder.File(QStringLiteral("to"), "old")));
     QCOMPARE(folder.Read(QStringLiteral("to")), QByteArray("old"));
     QVERIFY(!FileCopy::Copy(from, from));
-    QCOMPARE(folder.Read(QStringLiteral("from")), QByteArray("new"));
+    QCOMPARE(folder.Read(QStringLiteral("from")), content);
     QVERIFY(!FileCopy::Copy(from, folder.Folder(QStringLiteral("folder"))));
+}
+
+void tst_FileCopy::neverWritesThroughALinkToNothing_data()
+{
+    AddSizes();
 }
 
 void tst_FileCopy::neverWritesThroughALinkToNothing()
 {
     const TestFolder folder;
-    const QString from = folder.File(QStringLiteral("from"), "new");
+    QFETCH(int, size);
+    const QString from = folder.File(QStringLiteral("from"), QByteArray(size, 'n'));
     const QString link = folder.Link(folder.Path(QStringLiteral("elsewhere")), QStringLiteral("to"));
     QVERIFY(!FileCopy::Copy(from, link));
     QVERIFY(QFileInfo(link).isSymLink());
@@ -125,15 +156,23 @@ void tst_FileCopy::missingFolderFails()
     QCOMPARE(Names(folder.Path()), QStringList(QStringLiteral("from")));
 }
 
+void tst_FileCopy::fullDiskLeavesNothingBehind_data()
+{
+    AddSizes();
+}
+
 void tst_FileCopy::fullDiskLeavesNothingBehind()
 {
     const TestFolder folder;
+    QFETCH(int, size);
     folder.Folder(QStringLiteral("to"));
-    const QString from = folder.File(QStringLiteral("from"), QByteArray(300000, 'x'));
-    const FileSizeLimit limit(100000);
-    QVERIFY(!FileCopy::Copy(from, folder.Path(QStringLiteral("to/copy"))));
+    const QString from = folder.File(QStringLiteral("from"), QByteArray(size, 'x'));
+    {
+        const FileSizeLimit limit(40000);
+        QVERIFY(!FileCopy::Copy(from, folder.Path(QStringLiteral("to/copy"))));
+    }
     QCOMPARE(Names(folder.Path(QStringLiteral("to"))), QStringList());
-    QCOMPARE(folder.Read(QStringLiteral("from")).size(), 300000);
+    QCOMPARE(folder.Read(QStringLiteral("from")).size(), size);
 }
 
 void tst_FileCopy::pipesSocketsAndDevicesAreNotOpened()
