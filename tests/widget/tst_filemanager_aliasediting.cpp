@@ -29,7 +29,15 @@ public:
         Model()->SetRenamable(true);
     }
 
-    bool Start() { return LoadTop(QStringLiteral("Top")) && Show(); }
+    bool Start() { return LoadTop(QStringLiteral("Top")) && ShowActive(); }
+
+    /** Shows the window with the focus, which a server without a window manager gives to none by itself. */
+    bool ShowActive()
+    {
+        const bool shown = Show();
+        m_window.activateWindow();
+        return shown && QTest::qWaitForWindowActive(&m_window);
+    }
 
     /** Double-clicks an item, so that its editor opens. @return whether it did */
     bool Edit(const QStringList& labels)
@@ -143,7 +151,7 @@ void tst_FileManagerAliasEditing::folderThatAnotherItemShowsStaysWatched()
     QVERIFY(pane.m_pPane->PopulateAliasTable(
         AliasLine(QStringLiteral("Top"), pane.m_folder.Path(QStringLiteral("Top"))) +
         AliasLine(QStringLiteral("Same"), folder)));
-    QVERIFY(pane.Show());
+    QVERIFY(pane.ShowActive());
     pane.AliasTree()->collapse(pane.Item({QStringLiteral("Same")}));
     QVERIFY(pane.Edit(TopAnd(QStringLiteral("A"))));
     QVERIFY(pane.Watched().contains(folder));
@@ -384,7 +392,7 @@ void tst_FileManagerAliasEditing::itemBelowAHeadingKeepsItsRow()
     const QString table = QStringLiteral("Heading\n ") +
                           AliasLine(QStringLiteral("Top"), pane.m_folder.Path(QStringLiteral("Top")));
     QVERIFY(pane.m_pPane->PopulateAliasTable(table));
-    QVERIFY(pane.Show());
+    QVERIFY(pane.ShowActive());
     const QStringList watched = pane.Watched();
     const QStringList item{QStringLiteral("Heading"), QStringLiteral("Top")};
     QVERIFY(pane.Edit(item));
@@ -403,7 +411,7 @@ void tst_FileManagerAliasEditing::childrenThatNoScanFindsAreKept()
     const QString folder = pane.m_folder.Path(QStringLiteral("Top"));
     QVERIFY(pane.m_pPane->PopulateAliasTable(AliasLine(QStringLiteral("Top"), folder, false) +
                                              QStringLiteral(" Own\n  Deeper\n")));
-    QVERIFY(pane.Show());
+    QVERIFY(pane.ShowActive());
     QVERIFY(pane.Edit(Top));
     QVERIFY(pane.Type(QString(), Qt::Key_Escape));
     QCOMPARE(pane.Labels(TopAnd(QStringLiteral("Own"))), QStringList(QStringLiteral("Deeper")));
