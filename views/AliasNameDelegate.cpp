@@ -15,12 +15,16 @@ bool IsTab(const QEvent& event)
 
 } // namespace
 
-AliasNameDelegate::AliasNameDelegate(QObject* parent) : QStyledItemDelegate(parent) {}
+AliasNameDelegate::AliasNameDelegate(std::function<void(const QModelIndex&)> onEditBegins, QObject* parent)
+    : QStyledItemDelegate(parent),
+      m_onEditBegins(std::move(onEditBegins))
+{
+}
 
 QWidget* AliasNameDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                                          const QModelIndex& index) const
 {
-    Q_EMIT EditBegins(index);
+    m_onEditBegins(index);
     return QStyledItemDelegate::createEditor(parent, option, index);
 }
 

@@ -3,6 +3,8 @@
 
 #include <QStyledItemDelegate>
 
+#include <functional>
+
 /**
  * Edits the names of the alias tree.
  *
@@ -15,17 +17,18 @@ class AliasNameDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
-    explicit AliasNameDelegate(QObject* parent = nullptr);
+    /** @param onEditBegins called with its item when an editor opens, by whatever way */
+    explicit AliasNameDelegate(std::function<void(const QModelIndex&)> onEditBegins,
+                               QObject* parent = nullptr);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;
 
-Q_SIGNALS:
-    /** An editor opens on an item, by whatever way. */
-    void EditBegins(const QModelIndex& index) const;
-
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    std::function<void(const QModelIndex&)> m_onEditBegins;
 };
 
 #endif

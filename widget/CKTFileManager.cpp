@@ -118,9 +118,8 @@ void CKTFileManager::CreateAliasTreeView()
     m_pAliasTreeView->setUniformRowHeights(true);
     m_pAliasTreeView->setItemsExpandable(true);
     m_pAliasTreeView->setEditTriggers(QAbstractItemView::DoubleClicked);
-    auto* delegate = new AliasNameDelegate(m_pAliasTreeView);
-    connect(delegate, &AliasNameDelegate::EditBegins, this, &CKTFileManager::PrepareAliasEdit);
-    m_pAliasTreeView->setItemDelegate(delegate);
+    const auto prepare = [this](const QModelIndex& index) { PrepareAliasEdit(index); };
+    m_pAliasTreeView->setItemDelegate(new AliasNameDelegate(prepare, m_pAliasTreeView));
 }
 
 void CKTFileManager::CreateLayout(const QRect& rect, int leftPanePercent)

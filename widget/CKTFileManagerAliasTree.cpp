@@ -132,7 +132,8 @@ void CKTFileManager::AddScannedFolders(const QPersistentModelIndex& index, const
     const QString folder = m_pAliasTreeModel->GetMappedFolderPath(index);
     const QString section = m_pAliasTreeModel->GetINISection(index);
     QSet<QString> known;
-    for (const QModelIndex& child : AliasChildren(index))
+    const QModelIndexList children = AliasChildren(index);
+    for (const QModelIndex& child : children)
         known.insert(m_pAliasTreeModel->GetMappedFolderPath(child));
     QModelIndexList added;
     for (const QString& name : names) {

@@ -48,7 +48,7 @@ void tst_AliasTable::otherStringIsTheTableItself_data()
 {
     QTest::addColumn<QString>("text");
     QTest::newRow("null") << QString();
-    QTest::newRow("empty") << QStringLiteral("");
+    QTest::newRow("empty") << QString(QLatin1String(""));
     QTest::newRow("one label") << QStringLiteral("Documents");
     QTest::newRow("columns") << QStringLiteral("Documents\t/home/documents");
     QTest::newRow("lines") << QStringLiteral("a\n b\n");

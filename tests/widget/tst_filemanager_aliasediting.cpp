@@ -261,7 +261,8 @@ void tst_FileManagerAliasEditing::tabRenamesTheItemAndEditsNoOther()
     EditedPane pane;
     QVERIFY(pane.Start());
     for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Backtab}) {
-        const QString label = pane.LabelsInOrder(pane.Item(Top)).first();
+        const QStringList labels = pane.LabelsInOrder(pane.Item(Top));
+        const QString& label = labels.first();
         const QString newLabel = label + QStringLiteral("2");
         QVERIFY(pane.Edit(TopAnd(label)));
         QVERIFY(pane.Type(newLabel, key));
