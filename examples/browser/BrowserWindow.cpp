@@ -140,7 +140,7 @@ void BrowserWindow::CreateToolBar()
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     QAction* up = toolBar->addAction(style()->standardIcon(QStyle::SP_FileDialogToParent), tr("Up"), this,
                                      &BrowserWindow::OpenParentFolder);
-    up->setShortcut(QKeySequence(Qt::ALT | Qt::Key_Up));
+    up->setShortcut(QKeySequence(QStringLiteral("Alt+Up")));
     toolBar->addSeparator();
     AddViewActions(*toolBar);
     toolBar->addSeparator();

@@ -31,7 +31,7 @@ const std::array<Definition, 7>& Definitions()
          {FM_CMD_DELETE, QT_TR_NOOP("Delete"), "edit-delete", QKeySequence::Delete, true},
          {FM_CMD_RENAME, QT_TR_NOOP("Rename"), "edit-rename", QKeySequence(Qt::Key_F2), true},
          {FM_CMD_NEW_FOLDER, QT_TR_NOOP("New folder"), "folder-new",
-          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N), false},
+          QKeySequence(QStringLiteral("Ctrl+Shift+N")), false},
          {FM_CMD_SELECT_ALL, QT_TR_NOOP("Select all"), "edit-select-all", QKeySequence::SelectAll, false}}};
     return definitions;
 }
