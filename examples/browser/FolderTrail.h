@@ -9,7 +9,7 @@ class CKTFMTreeModel;
 
 /** Tells the breadcrumb bar of the folders of a tree model, and a function of the folder that the user chose.
  */
-class FolderTrail : public CTitleBarSlotInterface
+class FolderTrail final : public CTitleBarSlotInterface
 {
 public:
     /** @param model borrowed; it must outlive this object. @param open called with the path of a folder */

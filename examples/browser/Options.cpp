@@ -17,7 +17,7 @@ IniSection SplitSection(const QString& text)
     constexpr int afterDrive = 1;
     const int colon = text.lastIndexOf(QLatin1Char(':'));
     if (colon <= afterDrive)
-        return {text, QStringLiteral("")};
+        return {text, QLatin1String("")};
     return {text.left(colon), text.mid(colon + 1)};
 }
 
