@@ -115,6 +115,7 @@ struct PlainStack : Stack
         m_proxy.sort(0);
         m_view.setModel(&m_proxy);
         m_view.setViewMode(QListView::IconMode);
+        m_view.setSelectionMode(QAbstractItemView::ExtendedSelection);
         m_view.setResizeMode(QListView::Adjust);
         m_view.setUniformItemSizes(true);
         m_view.setIconSize(QSize(60, 60));
@@ -146,6 +147,7 @@ struct PaneStack : Stack
         m_alias.reset(m_pane->GetAliasTreeModel());
         m_pane->SetFMViewShowStringMode(FM_PART_LIST, FM_SHOW_STRING_CALLBACK);
         m_pane->SetViewMode(FM_VIEW_ICON);
+        m_pane->SetSelectionMode(FM_SELECTION_EXTENDED);
         m_pane->show();
     }
 
@@ -238,6 +240,55 @@ template <typename AnyStack> void FilesAppear(benchmark::State& state)
     state.counters["longest_stall_ms"] = stall;
 }
 
+/** The paths of what is selected, as a host of the plain stack would collect them. */
+QStringList SelectedPaths(const PlainStack& stack)
+{
+    QStringList paths;
+    const QModelIndexList selected = stack.m_view.selectionModel()->selectedRows();
+    for (const QModelIndex& index : selected)
+        paths.append(stack.m_model.filePath(stack.m_proxy.mapToSource(index)));
+    return paths;
+}
+
+QStringList SelectedPaths(const PaneStack& stack)
+{
+    return stack.m_pane->GetCurSelectedFileList(true);
+}
+
+void SelectAll(PlainStack& stack)
+{
+    stack.m_view.selectAll();
+}
+
+void SelectAll(PaneStack& stack)
+{
+    stack.m_pane->DoCommand(FM_CMD_SELECT_ALL);
+}
+
+/** Selects every file of a folder and asks for their paths; with a second argument of 1 the selection is
+ * painted. */
+template <typename AnyStack> void SelectAllFiles(benchmark::State& state)
+{
+    const int count = static_cast<int>(state.range(0));
+    AnyStack stack;
+    stack.Open(Folder(count).Path());
+    const bool isPainted = state.range(1) != 0;
+    stack.WaitForRows(count, true);
+    SelectAll(stack);
+    for (auto _ : state) {
+        state.PauseTiming();
+        stack.View()->clearSelection();
+        stack.Settle();
+        state.ResumeTiming();
+        SelectAll(stack);
+        if (isPainted)
+            stack.Settle();
+        const QStringList paths = SelectedPaths(stack);
+        if (paths.size() != count)
+            qFatal("not all files are selected");
+    }
+}
+
 } // namespace
 
 BENCHMARK_TEMPLATE(OpenFolder, PlainStack)
@@ -278,3 +329,9 @@ BENCHMARK_TEMPLATE(FilesAppear, PaneStack)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->UseRealTime();
+BENCHMARK_TEMPLATE(SelectAllFiles, PlainStack)
+    ->ArgsProduct({{500, 100000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_TEMPLATE(SelectAllFiles, PaneStack)
+    ->ArgsProduct({{500, 100000}, {0, 1}})
+    ->Unit(benchmark::kMillisecond);

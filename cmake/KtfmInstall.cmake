@@ -1,4 +1,5 @@
-# What `cmake --install` puts below the prefix: library, public headers, CMake package and pkg-config file.
+# What `cmake --install` puts below the prefix: library, translations, public headers, CMake package and pkg-config
+# file.
 
 include(CMakePackageConfigHelpers)
 set(ktfm_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/KTFileManager2QU)
@@ -13,8 +14,14 @@ install(DIRECTORY ${KTFM_PUBLIC_INCLUDE_DIR}/KTFileManager2QU
 install(EXPORT KTFileManager2QUTargets NAMESPACE KTFileManager2QU::
   DESTINATION ${ktfm_cmake_dir} COMPONENT development)
 
+set(ktfm_translations_dir ${CMAKE_INSTALL_DATADIR}/KTFileManager2QU/translations)
+if(KTFM_BUILD_TRANSLATIONS)
+  install(FILES ${KTFM_QM_FILES} DESTINATION ${ktfm_translations_dir} COMPONENT runtime)
+endif()
+
 configure_package_config_file(cmake/KTFileManager2QUConfig.cmake.in
-  ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake INSTALL_DESTINATION ${ktfm_cmake_dir})
+  ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake INSTALL_DESTINATION ${ktfm_cmake_dir}
+  PATH_VARS ktfm_translations_dir)
 write_basic_package_version_file(${PROJECT_BINARY_DIR}/KTFileManager2QUConfigVersion.cmake
   COMPATIBILITY SameMajorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake
@@ -23,7 +30,7 @@ install(FILES ${PROJECT_BINARY_DIR}/KTFileManager2QUConfig.cmake
 
 # The prefix is told by the place of the pkg-config file itself, so that the installed tree may be moved and
 # `cmake --install --prefix` needs no new configuration; a distribution may give absolute folders instead.
-foreach(kind LIB INCLUDE)
+foreach(kind LIB INCLUDE DATA)
   if(IS_ABSOLUTE "${CMAKE_INSTALL_${kind}DIR}")
     set(KTFM_PC_${kind}DIR "${CMAKE_INSTALL_${kind}DIR}")
   else()

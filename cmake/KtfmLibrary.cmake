@@ -29,6 +29,10 @@ set_target_properties(KTFileManager2QU PROPERTIES
   LINKER_LANGUAGE CXX
   VERSION ${PROJECT_VERSION}
   SOVERSION ${PROJECT_VERSION_MAJOR})
+if(WIN32)
+  # One name from all compilers; MinGW's would begin with "lib".
+  set_target_properties(KTFileManager2QU PROPERTIES PREFIX "")
+endif()
 
 include(GenerateExportHeader)
 generate_export_header(KTFileManager2QU

@@ -1,5 +1,7 @@
 #include "ini/CIniParser.h"
 
+#include "ini/ProfileFile.h"
+
 #include <algorithm>
 #include <cstring>
 #include <new>
@@ -80,8 +82,7 @@ CIniParser::CIniParser() : CSimpleIniTempl(true, false, false) {}
 qint32 CIniParser::Read(std::FILE* file)
 {
     // A file of any size can be made of nothing but a hole; it is measured before memory is taken for it.
-    const bool tooLong =
-        std::fseek(file, 0, SEEK_END) == 0 && std::ftell(file) > static_cast<long>(CIniDecoder::MostBytes);
+    const bool tooLong = ProfileFile::SizeOf(file) > static_cast<std::int64_t>(CIniDecoder::MostBytes);
     return tooLong ? CannotConvert : LoadFile(file);
 }
 

@@ -1,6 +1,7 @@
 #ifndef PROFILEFILE_H
 #define PROFILEFILE_H
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -35,6 +36,9 @@ bool EntryExists(const std::wstring& path);
  *         and devices are left alone, because reading them could block or never end
  */
 Stream OpenForReading(const std::wstring& path);
+
+/** @return the size of an open file in bytes, however large; -1 when it cannot be told */
+std::int64_t SizeOf(std::FILE* file);
 
 } // namespace ProfileFile
 

@@ -104,4 +104,10 @@ Stream OpenForReading(const std::wstring& path)
     return file < 0 ? Stream() : StreamOf(file);
 }
 
+std::int64_t SizeOf(std::FILE* file)
+{
+    struct stat status = {};
+    return fstat(fileno(file), &status) == 0 ? status.st_size : -1;
+}
+
 } // namespace ProfileFile

@@ -3,7 +3,6 @@
 #include <io.h>
 #include <windows.h>
 
-#include <cstdint>
 #include <utility>
 
 namespace ProfileFile {
@@ -14,6 +13,7 @@ namespace {
 bool IsOnDisk(std::FILE* file)
 {
     const intptr_t handle = _get_osfhandle(_fileno(file));
+    // NOLINTNEXTLINE(performance-no-int-to-ptr) the runtime library keeps handles as numbers
     return GetFileType(reinterpret_cast<HANDLE>(handle)) == FILE_TYPE_DISK;
 }
 
@@ -22,7 +22,7 @@ bool IsOnDisk(std::FILE* file)
 bool EntryExists(const std::wstring& path)
 {
     WIN32_FIND_DATAW found;
-    const HANDLE search = FindFirstFileW(path.c_str(), &found);
+    auto* const search = FindFirstFileW(path.c_str(), &found);
     if (search == INVALID_HANDLE_VALUE)
         return false;
     FindClose(search);
@@ -36,6 +36,11 @@ Stream OpenForReading(const std::wstring& path)
         return Stream();
     Stream stream(file);
     return IsOnDisk(file) ? std::move(stream) : Stream();
+}
+
+std::int64_t SizeOf(std::FILE* file)
+{
+    return _filelengthi64(_fileno(file));
 }
 
 } // namespace ProfileFile

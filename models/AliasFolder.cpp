@@ -1,5 +1,6 @@
 #include "models/AliasFolder.h"
 
+#include "models/DiskNames.h"
 #include "models/FileNameRules.h"
 #include "models/FileSystemItem.h"
 #include "models/RenameErrorEvents.h"
@@ -77,7 +78,8 @@ QString RenamedPath(const QFileInfo& folder, const QString& newName)
 
 std::optional<RenameError> Rename(const QFileInfo& folder, const QString& newName)
 {
-    const bool canBeName = !FileNameRules::HasSeparator(newName) && FileNameRules::IsRepresentable(newName);
+    const bool canBeName = !FileNameRules::HasSeparator(newName) && FileNameRules::IsRepresentable(newName) &&
+                           DiskNames::IsKept(newName);
     if (folder.filePath().isEmpty() || !canBeName)
         return RenameError::RenameFailed;
     const QString target = RenamedPath(folder, newName);

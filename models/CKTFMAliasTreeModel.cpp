@@ -2,6 +2,7 @@
 
 #include "ini/NameMapping.h"
 #include "models/AliasFolder.h"
+#include "models/AliasTreeColumns.h"
 #include "models/AliasTreeLog.h"
 #include "models/HostImageCache.h"
 #include "models/RenameErrorEvents.h"
@@ -17,31 +18,22 @@
 #include <QSet>
 #include <QUrl>
 
+using namespace AliasTree;
+
 namespace {
 
-/** The columns of the tree, in their order. */
-enum Column : int
-{
-    LabelColumn,
-    PathColumn,
-    WatchColumn,
-    OpsColumn,
-    SectionColumn,
-    CustomColumn
-};
+/** The texts of the header, one for each column. */
+constexpr const char* HeaderTexts[] = {QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "Category"),
+                                       QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "File Path"),
+                                       //: Whether the folder may be read and watched for changes.
+                                       QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "System Watch"),
+                                       //: The operations that the user may perform on the folder.
+                                       QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "Allowed Ops"),
+                                       //: The section of an INI file that gives the items below their names.
+                                       QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "INI Section"),
+                                       QT_TRANSLATE_NOOP("CKTFMAliasTreeModel", "Custom Data")};
 
 const RenameErrorEvents RenameErrors;
-
-/** As paths are compared: without asking the disk. */
-QString Normalised(const QString& path)
-{
-    return QFileInfo(path).filePath();
-}
-
-QString FolderOf(const TreeItem* item)
-{
-    return item->data(PathColumn).toString();
-}
 
 /** A place in a walk over the tree: the next row to visit below an item. */
 struct WalkStep
@@ -71,42 +63,6 @@ template <typename Visitor> void VisitPathItems(const TreeItem* top, Visitor vis
     }
 }
 
-/** @return @p branches and all that is below them */
-QVector<const TreeItem*> AllItemsOf(const QVector<TreeItem*>& branches)
-{
-    QVector<const TreeItem*> items(branches.cbegin(), branches.cend());
-    for (int i = 0; i < items.size(); ++i) {
-        const TreeItem* item = items.at(i);
-        for (int row = 0; row < item->childCount(); ++row)
-            items.append(item->child(row));
-    }
-    return items;
-}
-
-bool IsAmong(const QSet<QString>& names, const TreeItem* child)
-{
-    return AliasFolder::IsAmong(names, child->data(LabelColumn).toString(), FolderOf(child));
-}
-
-/** @return the children that stand for none of @p names */
-QVector<TreeItem*> ChildrenNotAmong(const QSet<QString>& names, const TreeItem* parent)
-{
-    QVector<TreeItem*> others;
-    for (int row = 0; row < parent->childCount(); ++row) {
-        if (!IsAmong(names, parent->child(row)))
-            others.append(parent->child(row));
-    }
-    return others;
-}
-
-QSet<QString> FoldersOfChildren(const TreeItem* parent)
-{
-    QSet<QString> folders;
-    for (int row = 0; row < parent->childCount(); ++row)
-        folders.insert(FolderOf(parent->child(row)));
-    return folders;
-}
-
 } // namespace
 
 CKTFMAliasTreeModel::CKTFMAliasTreeModel(QObject* parent)
@@ -120,10 +76,11 @@ CKTFMAliasTreeModel::~CKTFMAliasTreeModel() = default;
 
 bool CKTFMAliasTreeModel::PopulateAliasTree(const QString& data)
 {
-    const QStringList headers{tr("Category"),    tr("File Path"),   tr("System Watch"),
-                              tr("Allowed Ops"), tr("INI Section"), tr("Custom Data")};
     beginResetModel();
-    const bool done = SetupTree(headers, data);
+    m_headers.clear();
+    for (const char* text : HeaderTexts)
+        m_headers.append(tr(text));
+    const bool done = SetupTree(m_headers, data);
     endResetModel();
     return done;
 }
@@ -203,94 +160,6 @@ bool CKTFMAliasTreeModel::CanFileSysWatch(const QModelIndex& index) const
 bool CKTFMAliasTreeModel::IsOpAllowed(const QModelIndex& index, EKTFMOpType op) const
 {
     return (CellOf(index, OpsColumn).toInt() & static_cast<int>(op)) != 0;
-}
-
-void CKTFMAliasTreeModel::ScanAliasTreeDirectory(const QModelIndex& parent)
-{
-    const QString folder = GetMappedFolderPath(parent);
-    if (folder.isEmpty() || !CanFileSysWatch(parent) || !AliasFolder::CanBeListed(folder))
-        return;
-    const QStringList names = AliasFolder::EntryNames(folder);
-    // Slots run at every change and may change the tree themselves; then this index follows, or is lost.
-    const QPersistentModelIndex category = parent.sibling(parent.row(), LabelColumn);
-    AddScannedChildren(category, names);
-    RemoveVanishedChildren(category, names);
-}
-
-void CKTFMAliasTreeModel::AddScannedChildren(const QPersistentModelIndex& parent, const QStringList& names)
-{
-    const QString folder = GetMappedFolderPath(parent);
-    const QString section = GetINISection(parent);
-    QSet<QString> known = FoldersOfChildren(ItemOf(parent));
-    for (const QString& name : names) {
-        const auto entry = AliasFolder::EntryOf(folder, name);
-        if (!entry || known.contains(entry->path))
-            continue;
-        known.insert(entry->path);
-        AddAliasItem(parent, entry->label, entry->path, AliasFolder::SectionOf(section, name), true,
-                     FM_OP_RENAME, entry->shortcut);
-    }
-}
-
-void CKTFMAliasTreeModel::RemoveVanishedChildren(const QPersistentModelIndex& parent,
-                                                 const QStringList& names)
-{
-    const QSet<QString> present(names.cbegin(), names.cend());
-    if (parent.isValid())
-        StopWatching(ChildrenNotAmong(present, ItemOf(parent)));
-    for (int row = 0; parent.isValid() && row < rowCount(parent);) {
-        const bool kept = IsAmong(present, ItemOf(parent)->child(row)) || !removeRow(row, parent);
-        row += kept ? 1 : 0;
-    }
-}
-
-void CKTFMAliasTreeModel::SetFileSystemWatcher(QFileSystemWatcher* watcher)
-{
-    m_pWatcher = watcher;
-}
-
-void CKTFMAliasTreeModel::AddPathToFileSystemWatcher(const QModelIndex& index)
-{
-    if (!m_pWatcher || !CanFileSysWatch(index))
-        return;
-    const QString folder = Normalised(GetMappedFolderPath(index));
-    if (QFileInfo(folder).isDir() && !m_pWatcher->directories().contains(folder))
-        m_pWatcher->addPath(folder);
-}
-
-void CKTFMAliasTreeModel::RemovePathFromFileSystemWatcher(const QModelIndex& index)
-{
-    if (TreeItem* item = ItemOf(index))
-        StopWatching({item});
-}
-
-void CKTFMAliasTreeModel::StopWatching(const QVector<TreeItem*>& branches)
-{
-    if (!m_pWatcher || branches.isEmpty())
-        return;
-    const QStringList directories = m_pWatcher->directories();
-    QSet<QString> watched(directories.cbegin(), directories.cend());
-    QStringList ended;
-    const QVector<const TreeItem*> items = AllItemsOf(branches);
-    for (const TreeItem* item : items) {
-        const QString folder = Normalised(FolderOf(item));
-        if (item->data(WatchColumn).toBool() && watched.remove(folder))
-            ended.append(folder);
-    }
-    if (!ended.isEmpty())
-        m_pWatcher->removePaths(ended);
-}
-
-void CKTFMAliasTreeModel::ClearAllPathInFileSystemWatcher()
-{
-    if (!m_pWatcher)
-        return;
-    const QStringList directories = m_pWatcher->directories();
-    if (!directories.isEmpty())
-        m_pWatcher->removePaths(directories);
-    const QStringList files = m_pWatcher->files();
-    if (!files.isEmpty())
-        m_pWatcher->removePaths(files);
 }
 
 void CKTFMAliasTreeModel::SetRenamable(bool renamable)
@@ -411,6 +280,13 @@ bool CKTFMAliasTreeModel::RenameFolder(const QModelIndex& index, const QVariant&
     StoreCell(index, PathColumn, storedPath);
     Q_EMIT RenameSuccess(storedPath);
     return true;
+}
+
+QVariant CKTFMAliasTreeModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    const QVariant stored = TreeModel::headerData(section, orientation, role);
+    const int column = m_headers.indexOf(stored.toString());
+    return column < 0 ? stored : tr(HeaderTexts[column]);
 }
 
 Qt::ItemFlags CKTFMAliasTreeModel::flags(const QModelIndex& index) const

@@ -315,3 +315,15 @@ QMimeData* CKTFMCustomListModel::mimeData(const QModelIndexList& indexes) const
     data->setUrls(urls);
     return data;
 }
+
+bool CKTFMCustomListModel::dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                                        const QModelIndex& parent)
+{
+    Q_UNUSED(data)
+    Q_UNUSED(action)
+    Q_UNUSED(row)
+    Q_UNUSED(column)
+    Q_UNUSED(parent)
+    // The base would read the list of URLs as items in its own format, and ask for more memory than there is.
+    return false;
+}

@@ -8,6 +8,7 @@
 #include "models/HostImageCache.h"
 #include "models/LazyIconProvider.h"
 #include "models/RenameErrorEvents.h"
+#include "models/UnchangedEntries.h"
 #include "models/VanishedFolders.h"
 
 #include <QDir>
@@ -66,6 +67,7 @@ CKTFMListModel::CKTFMListModel(QObject* parent)
     setNameFilterDisables(false);
     setReadOnly(false);
     VanishedFolders::Follow(*this);
+    UnchangedEntries::Follow(*this, [this] { return sender(); });
 }
 
 CKTFMListModel::~CKTFMListModel() = default;

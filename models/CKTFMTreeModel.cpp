@@ -7,6 +7,7 @@
 #include "models/HostImageCache.h"
 #include "models/LazyIconProvider.h"
 #include "models/RenameErrorEvents.h"
+#include "models/UnchangedEntries.h"
 #include "models/VanishedFolders.h"
 
 #include <QDir>
@@ -27,6 +28,7 @@ CKTFMTreeModel::CKTFMTreeModel(QObject* parent)
     setFilter(QDir::AllDirs | QDir::NoSymLinks | QDir::NoDotAndDotDot);
     setNameFilterDisables(false);
     VanishedFolders::Follow(*this);
+    UnchangedEntries::Follow(*this, [this] { return sender(); });
 }
 
 CKTFMTreeModel::~CKTFMTreeModel() = default;

@@ -1,6 +1,7 @@
 #ifndef CHILDNODES_H
 #define CHILDNODES_H
 
+#include <QHash>
 #include <QModelIndex>
 
 #include <vector>
@@ -8,7 +9,7 @@
 class QFileSystemModel;
 
 /**
- * The nodes that a file-system model has shown as the children of one folder, by row.
+ * The nodes that a file-system model has shown as the children of its folders, by row.
  *
  * The base looks every child up by its name, in a hash of all names, each time that an index is made of its
  * row; sorting and painting ask for nothing more often. This remembers the answers until rows move. It
@@ -26,10 +27,9 @@ public:
     void Remember(const QModelIndex& child, const QModelIndex& folder);
 
 private:
-    void Forget();
+    void ForgetFrom(int row, const QModelIndex& folder);
 
-    const void* m_pFolder = nullptr;
-    std::vector<void*> m_nodes;
+    QHash<const void*, std::vector<void*>> m_nodes; ///< by the node of their folder
     bool m_bRowsMove = false; ///< between the announcement of a new layout and its completion
 };
 

@@ -1,7 +1,8 @@
 #ifndef COLLATIONKEY_H
 #define COLLATIONKEY_H
 
-#include <QCollator>
+#include "models/SystemSortKey.h"
+
 #include <QString>
 
 #include <optional>
@@ -24,8 +25,7 @@ public:
 
 private:
     QString m_text;
-    std::optional<QCollatorSortKey>
-        m_key; ///< not set for an empty text and in the C locale, which has no keys
+    std::optional<SystemSortKey> m_key; ///< not set for an empty text and where the locale has no keys
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "models/FileSystemItem.h"
 
+#include "models/DiskNames.h"
 #include "models/FileNameRules.h"
 
 #include <QFile>
@@ -13,6 +14,15 @@ bool IsValidBaseName(const QString& baseName, bool mayBeBlank)
     if (FileNameRules::HasForbiddenCharacter(baseName) || baseName.isEmpty())
         return false;
     return mayBeBlank || !baseName.trimmed().isEmpty();
+}
+
+/**
+ * The name that a disk must keep: a file's without the dot of an empty extension, which files are given all
+ * the same and which some disks drop.
+ */
+QString KeptPart(const QFileInfo& item, const QString& name)
+{
+    return !item.isDir() && name.endsWith(QLatin1Char('.')) ? name.chopped(1) : name;
 }
 
 } // namespace
@@ -35,13 +45,14 @@ QString FileName(const QFileSystemModel& model, const QModelIndex& index)
 
 bool IsTaken(const QString& path)
 {
-    const QFileInfo info(path);
-    return info.exists() || info.isSymLink();
+    return DiskNames::IsTaken(path);
 }
 
 std::optional<RenameError> Rename(const QFileInfo& item, const QString& newName, bool mayBeBlank)
 {
     if (FileNameRules::HasSeparator(newName) || !FileNameRules::IsRepresentable(newName))
+        return RenameError::RenameFailed;
+    if (!DiskNames::IsKept(KeptPart(item, newName)))
         return RenameError::RenameFailed;
     const QString target = item.absolutePath() + QLatin1Char('/') + newName;
     if (IsTaken(target))

@@ -16,8 +16,8 @@
 
 namespace {
 
-/** The colour of every name, whatever the item's state. */
-constexpr QRgb NameColor = qRgb(112, 110, 110);
+/** The colour of every name, whatever the item's state, until the host sets another one. */
+constexpr QRgb DefaultNameColor = qRgb(112, 110, 110);
 
 /** The backdrop of a file of the file-system model. */
 constexpr QRgb ListedFileBackdrop = qRgb(199, 199, 199);
@@ -91,7 +91,8 @@ CKTFMDelegate::CKTFMDelegate(QObject* parent)
       m_selectedColor2(0, 0, 0),
       m_selectedColor3(0, 0, 0),
       m_nSelectedRadius(3),
-      m_pNameLayouts(std::make_unique<NameLayouts>())
+      m_pNameLayouts(std::make_unique<NameLayouts>()),
+      m_nameColor(DefaultNameColor)
 {
     setParent(parent);
 }
@@ -143,6 +144,11 @@ bool CKTFMDelegate::IsDrawOutline() const
     return m_bDrawOutline;
 }
 
+void CKTFMDelegate::SetNameColor(QColor color)
+{
+    m_nameColor = color;
+}
+
 void CKTFMDelegate::SetUseCustomModel(bool use)
 {
     m_bUseCustomModel = use;
@@ -178,7 +184,7 @@ void CKTFMDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         PaintBackdrop(painter, thumbnail.translated(0, ThumbnailShift));
     }
     StyleOf(item)->drawControl(QStyle::CE_ItemViewItem, &item, painter, item.widget);
-    painter->setPen(NameColor);
+    painter->setPen(m_nameColor);
     m_pNameLayouts->Draw(painter, NameArea(thumbnail, painter->fontMetrics().height()), name);
     painter->restore();
 }

@@ -99,6 +99,8 @@ CTitleBarButton::CTitleBarButton(QWidget* parent, QModelIndex& index)
     const QString name = host ? host->GetTitleBarDisplayName(m_index) : QString();
     setText(LabelFor(name));
     setToolTip(name);
+    // A screen reader says it as it is, and also for the root button that shows an icon instead.
+    setAccessibleName(name);
     m_dir.setPath(host ? host->GetTitleBarPath(m_index) : QString());
     m_pMenu = new QMenu(this);
     setPopupMode(QToolButton::MenuButtonPopup);

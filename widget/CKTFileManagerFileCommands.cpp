@@ -16,6 +16,7 @@
 #include "widget/PasteRules.h"
 #include "widget/PasteTurn.h"
 #include "widget/ReplacePrompt.h"
+#include "widget/TranslatedNames.h"
 #include "widget/TreeCopy.h"
 #include "widget/TreeRemoval.h"
 
@@ -215,7 +216,8 @@ bool CKTFileManager::Paste()
         if (answer == ReplacePrompt::Answer::Yes)
             replaced.append(path);
     }
-    paths = PasteRules::RemoveReplaced(*m_pListModel, paths, replaced, destination);
+    const auto kind = m_bCut ? TreeCopy::Kind::Move : TreeCopy::Kind::Copy;
+    paths = PasteRules::RemoveReplaced(*m_pListModel, paths, replaced, destination, kind);
     m_pListSelectionModel->clear();
     PasteFiles(LocalPaths::UrlsOf(paths), destination);
     update();
@@ -327,7 +329,7 @@ bool CKTFileManager::NewFolder(bool bInList)
     if (bInList)
         model = m_pListModel;
     const QModelIndex parent = model->index(GetCurSelectedFolder(FM_PART_LIST), 0);
-    const QModelIndex made = NumberedFolder::Make(*model, parent, tr("New Folder"));
+    const QModelIndex made = NumberedFolder::Make(*model, parent, TranslatedNames::NewFolder());
     if (!made.isValid())
         return false;
     const QPersistentModelIndex shown = bInList ? MapFromSource(made) : made;
@@ -350,7 +352,9 @@ bool CKTFileManager::Rename(bool)
 
 void CKTFileManager::RenameAlias()
 {
-    const QPersistentModelIndex current = GetCurSelectedAliasIndex();
+    // A search by path finds another cell, one that the tree does not show.
+    const QModelIndex found = GetCurSelectedAliasIndex();
+    const QPersistentModelIndex current = found.sibling(found.row(), 0);
     // Nothing would watch the folder again without an editor that closes.
     if (!(current.flags() & Qt::ItemIsEditable))
         return;

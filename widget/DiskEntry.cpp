@@ -1,6 +1,9 @@
 #include "widget/DiskEntry.h"
 
+#include "widget/FileAttributes.h"
+
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -34,9 +37,23 @@ bool CanBeRead(const QString& path)
     return ShowsFile(entry) && QFile(path).open(QIODevice::ReadOnly);
 }
 
+QFileInfoList EntriesIn(const QString& path)
+{
+    // Qt takes a folder named like a shortcut for the place that a shortcut leads to, unless a separator says
+    // that it is a folder.
+    QDirIterator entry(path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/'),
+                       QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    QFileInfoList entries;
+    while (entry.hasNext()) {
+        entry.next();
+        entries.append(entry.fileInfo());
+    }
+    return entries;
+}
+
 bool Remove(const QString& path)
 {
-    if (QFile::remove(path))
+    if (QFile::remove(path) || FileAttributes::RemoveReadOnly(path))
         return true;
     // Where a link to a folder is a kind of folder, it is removed like an empty one.
     return IsLink(QFileInfo(path)) && QDir().rmdir(path);

@@ -1,9 +1,8 @@
 #ifndef DISKENTRY_H
 #define DISKENTRY_H
 
+#include <QFileInfo>
 #include <QString>
-
-class QFileInfo;
 
 /**
  * @file DiskEntry.h
@@ -24,10 +23,19 @@ bool IsRealFolder(const QFileInfo& entry);
  * block. */
 bool ShowsFile(const QFileInfo& entry);
 
+/**
+ * @return everything that the folder at @p path holds, hidden entries and links to nothing included, in the
+ *         disk's order; of a folder that is named like a shortcut too
+ */
+QFileInfoList EntriesIn(const QString& path);
+
 /** @return whether the content of a file or folder is there and can be read at this moment */
 bool CanBeRead(const QString& path);
 
-/** Removes a file, or a link as itself; what a link leads to is never touched. A folder is left alone. */
+/**
+ * Removes a file, or a link as itself; what a link leads to is never touched. A folder is left alone. That a
+ * file is read-only does not keep it.
+ */
 bool Remove(const QString& path);
 
 } // namespace DiskEntry

@@ -2,6 +2,7 @@
 
 #include "models/FileSystemItem.h"
 #include "widget/DiskEntry.h"
+#include "widget/FileAttributes.h"
 #include "widget/LocalPaths.h"
 
 #include <QFileInfo>
@@ -104,9 +105,12 @@ bool Copy(const QString& source, const QString& target)
     Block block;
     if (!block.Fill(from))
         return false;
-    if (block.IsFull())
-        return WriteBeside(from, block, target, StoredPermissions(info));
-    return WriteAtOnce(block, target, StoredPermissions(info));
+    const QFile::Permissions permissions = StoredPermissions(info);
+    const bool isCopied = block.IsFull() ? WriteBeside(from, block, target, permissions)
+                                         : WriteAtOnce(block, target, permissions);
+    if (isCopied)
+        FileAttributes::Copy(source, target);
+    return isCopied;
 }
 
 } // namespace FileCopy

@@ -1,6 +1,6 @@
 #include "widget/FileIdentity.h"
 
-#include <QDir>
+#include "models/ExtendedPath_win.h"
 
 #include <windows.h>
 
@@ -28,9 +28,8 @@ private:
 /** Opens a file or folder to ask about it alone: no access to its content, nobody is kept out. */
 HANDLE OpenToAsk(const QString& path)
 {
-    const std::wstring name = QDir::toNativeSeparators(path).toStdWString();
-    return CreateFileW(name.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                       OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    return CreateFileW(ExtendedPath(path).c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                       nullptr, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
 }
 
 } // namespace

@@ -5,6 +5,17 @@
 
 namespace LocalPaths {
 
+namespace {
+
+/** Whether a clean path leads to one place from everywhere; one in a drive's own current folder does not. */
+bool IsAbsolute(const QString& path)
+{
+    const bool isFromRoot = path.startsWith(QLatin1Char('/'));
+    return !QDir::isRelativePath(path) && (isFromRoot || path.midRef(1, 2) == QLatin1String(":/"));
+}
+
+} // namespace
+
 QString Of(const QUrl& url)
 {
     if (!url.isLocalFile())
@@ -12,7 +23,7 @@ QString Of(const QUrl& url)
     const QString path = QDir::cleanPath(url.toLocalFile());
     // Where paths cannot lead to another host, cleaning cuts the host's path to one of this machine.
     const bool lostHost = !url.host().isEmpty() && !path.startsWith(QLatin1String("//"));
-    return lostHost || QDir::isRelativePath(path) ? QString() : path;
+    return lostHost || !IsAbsolute(path) ? QString() : path;
 }
 
 QStringList Of(const QList<QUrl>& urls)

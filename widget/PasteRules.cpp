@@ -30,21 +30,73 @@ QModelIndex ListedItem(const QFileSystemModel& model, const QString& path)
     return index.isValid() && model.filePath(index) == path ? index : QModelIndex();
 }
 
-/** The files and folders at @p paths and all folders above them, each looked at once. */
-QSet<FileIdentity> TouchedBy(const QStringList& paths)
+/** @return where an item itself is, without links on the way to it; empty when its folder is not there */
+QString RealPath(const QString& path)
 {
-    QSet<FileIdentity> touched;
+    const QFileInfo item(path);
+    const QString folder = QFileInfo(item.path()).canonicalFilePath();
+    return folder.isEmpty() ? QString() : LocalPaths::In(folder, item.fileName());
+}
+
+/**
+ * What must be where it is for items to be found: the items, where they lead to when they are links, and in
+ * the same way all folders above them.
+ */
+QSet<QString> NeededBy(const QStringList& items)
+{
+    QSet<QString> needed;
     QSet<QString> seen;
-    for (const QString& source : paths) {
-        QString path = QFileInfo(source).canonicalFilePath();
-        while (!path.isEmpty() && !seen.contains(path)) {
-            seen.insert(path);
-            if (const std::optional<FileIdentity> identity = FileIdentity::Of(path))
-                touched.insert(*identity);
-            path = QFileInfo(path).path();
-        }
+    QStringList ways = items;
+    while (!ways.isEmpty()) {
+        const QString way = ways.takeLast();
+        // Links may lead in a circle.
+        if (way.isEmpty() || seen.contains(way))
+            continue;
+        seen.insert(way);
+        needed.insert(RealPath(way));
+        const QFileInfo info(way);
+        ways << info.path() << info.canonicalFilePath() << info.symLinkTarget();
     }
-    return touched;
+    return needed;
+}
+
+QSet<FileIdentity> FilesAt(const QSet<QString>& paths)
+{
+    QSet<FileIdentity> files;
+    for (const QString& path : paths) {
+        if (const std::optional<FileIdentity> identity = FileIdentity::Of(path))
+            files.insert(*identity);
+    }
+    return files;
+}
+
+/** Whether a paste ends at an item: a folder that would be pasted onto itself but for the letter case. */
+bool IsEnd(const QString& source, const QString& destination)
+{
+    const QFileInfo item(source);
+    return item.path() != destination && item.path().compare(destination, Qt::CaseInsensitive) == 0 &&
+           DiskEntry::ShowsFolder(item);
+}
+
+/** Those of @p replacing that a paste does not come to, or that have moved with one before them by then. */
+QSet<QString> NotPasted(const QStringList& sources, const QStringList& replacing, const QString& destination,
+                        TreeCopy::Kind kind)
+{
+    const QSet<QString> asked(replacing.cbegin(), replacing.cend());
+    QSet<QString> pasted;
+    QSet<QString> left;
+    QSet<QString> moved;
+    bool isOver = false;
+    for (const QString& source : sources) {
+        isOver = isOver || IsEnd(source, destination);
+        if (asked.contains(source) && !pasted.contains(source)) {
+            const bool isLeft = isOver || NeededBy({source}).intersects(moved);
+            (isLeft ? left : pasted).insert(source);
+        }
+        if (kind == TreeCopy::Kind::Move)
+            moved.insert(RealPath(source));
+    }
+    return left;
 }
 
 /** Removes one entry of the destination. */
@@ -90,14 +142,18 @@ bool IsConflict(const QString& source, const QString& destination)
 }
 
 QStringList RemoveReplaced(QFileSystemModel& model, const QStringList& sources, const QStringList& replacing,
-                           const QString& destination)
+                           const QString& destination, TreeCopy::Kind kind)
 {
-    const QSet<FileIdentity> touched = TouchedBy(sources);
+    if (replacing.isEmpty())
+        return sources;
+    const QSet<FileIdentity> needed = FilesAt(NeededBy(sources));
+    const QSet<QString> notPasted = NotPasted(sources, replacing, destination, kind);
     QStringList pasted = sources;
     for (const QString& source : replacing) {
         const QString target = LocalPaths::In(destination, QFileInfo(source).fileName());
         const std::optional<FileIdentity> replaced = FileIdentity::Of(target);
-        if (!DiskEntry::CanBeRead(source) || (replaced && touched.contains(*replaced)))
+        const bool isNeeded = replaced && needed.contains(*replaced);
+        if (isNeeded || notPasted.contains(source) || !DiskEntry::CanBeRead(source))
             pasted.removeOne(source);
         else
             Remove(model, target);

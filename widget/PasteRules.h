@@ -1,6 +1,8 @@
 #ifndef PASTERULES_H
 #define PASTERULES_H
 
+#include "widget/TreeCopy.h"
+
 #include <QStringList>
 
 class QFileSystemModel;
@@ -32,11 +34,12 @@ bool IsConflict(const QString& source, const QString& destination);
  * through @p model; a link is removed as itself.
  *
  * A target stays when its item cannot be read any more, and when one of @p sources is the target, by whatever
- * way it leads there, or lies in it.
+ * way it leads there, or lies in it, or is reached through it. It stays as well when its item will not be
+ * there in its turn, since one of @p sources takes it along in a move, or when the paste ends before it.
  * @return @p sources without the items whose targets had to stay
  */
 QStringList RemoveReplaced(QFileSystemModel& model, const QStringList& sources, const QStringList& replacing,
-                           const QString& destination);
+                           const QString& destination, TreeCopy::Kind kind);
 
 } // namespace PasteRules
 

@@ -11,6 +11,7 @@ namespace {
 
 QMessageBox* Question(QWidget* parent, const QString& name)
 {
+    //: %1 is the name of a file or folder.
     const QString text =
         CKTFileManager::tr("Item '%1' alreay exists ! \nDo you want to replace it ?").arg(name);
     auto* box = new QMessageBox(QMessageBox::NoIcon, CKTFileManager::tr("Replace File"), text,

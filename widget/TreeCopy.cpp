@@ -1,28 +1,37 @@
 #include "widget/TreeCopy.h"
 
 #include "widget/DiskEntry.h"
+#include "widget/FileAttributes.h"
 #include "widget/FileCopy.h"
 #include "widget/LocalPaths.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 
 namespace {
 
-constexpr QDir::Filters Everything =
-    QDir::Filters(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-
 /** Whether a tree has links in it; those at which a walk would leave the tree end it here. */
 bool HoldsLinks(const QString& folder)
 {
-    QDirIterator entries(folder, Everything, QDirIterator::Subdirectories);
-    while (entries.hasNext()) {
-        entries.next();
-        if (DiskEntry::IsLink(entries.fileInfo()))
-            return true;
+    QStringList pending = {folder};
+    while (!pending.isEmpty()) {
+        const QFileInfoList entries = DiskEntry::EntriesIn(pending.takeLast());
+        for (const QFileInfo& entry : entries) {
+            if (DiskEntry::IsLink(entry))
+                return true;
+            if (entry.isDir())
+                pending.append(entry.filePath());
+        }
     }
     return false;
+}
+
+bool MakeLike(const QString& source, const QString& target)
+{
+    if (!QDir().mkdir(target))
+        return false;
+    FileAttributes::Copy(source, target);
+    return true;
 }
 
 } // namespace
@@ -39,7 +48,7 @@ struct TreeCopy::Content
 
 TreeCopy::Content::Content(const QString& folder) : isAllOfIt(QFileInfo(folder).isReadable())
 {
-    const QFileInfoList entries = QDir(folder).entryInfoList(Everything, QDir::NoSort);
+    const QFileInfoList entries = DiskEntry::EntriesIn(folder);
     for (const QFileInfo& entry : entries) {
         if (DiskEntry::ShowsFolder(entry))
             folders.append(entry.fileName());
@@ -96,7 +105,7 @@ bool TreeCopy::Enter(const QString& source, const QString& target, bool isMoved)
     if (!folder || m_open.contains(*folder))
         return false;
     const Content content(source);
-    const bool isThere = QFileInfo(target).isDir() || QDir().mkdir(target);
+    const bool isThere = QFileInfo(target).isDir() || MakeLike(source, target);
     const std::optional<FileIdentity> written = FileIdentity::Of(target);
     if (!isThere || !written || *written == *folder)
         return false;

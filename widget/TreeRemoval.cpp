@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <vector>
 
 namespace TreeRemoval {
@@ -19,11 +20,16 @@ struct Level
     int next; ///< the first of the entries that has not been removed
 };
 
+bool GoesFirst(const QFileInfo& left, const QFileInfo& right)
+{
+    return left.isDir() != right.isDir() ? left.isDir() : left.fileName() < right.fileName();
+}
+
 Level Opened(const QString& path)
 {
-    const QDir::Filters everything =
-        QDir::Files | QDir::AllDirs | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot;
-    return {path, QDir(path).entryInfoList(everything, QDir::DirsFirst), 0};
+    QFileInfoList entries = DiskEntry::EntriesIn(path);
+    std::sort(entries.begin(), entries.end(), GoesFirst);
+    return {path, entries, 0};
 }
 
 bool RemoveEmptyFolder(const QString& path, const FolderRemoved& removed)
@@ -48,7 +54,8 @@ bool TakeNextEntry(std::vector<Level>& levels)
     Level& level = levels.back();
     const QFileInfo entry = level.entries.at(level.next++);
     const QString path = entry.absoluteFilePath();
-    if (!DiskEntry::IsRealFolder(entry))
+    // What was a folder when it was listed may be a link by now.
+    if (!DiskEntry::IsRealFolder(entry) || !DiskEntry::IsRealFolder(QFileInfo(path)))
         return DiskEntry::Remove(path);
     levels.push_back(Opened(path));
     return true;

@@ -65,6 +65,10 @@ public:
      * Adds an item below @p parent, after its other children: inserts a row, then sets the six cells, each
      * with its own dataChanged.
      *
+     * @param parent any cell of the item that gets a child
+     * @param label,path,section,custom the cells of these columns
+     * @param watch whether the folder may be scanned and watched
+     * @param ops a sum of EKTFMOpType bits
      * @return the item's index in column 0; an invalid one, and nothing is added, when @p parent is not an
      *         item of this model (categories at the top level come from PopulateAliasTree only)
      */
@@ -79,6 +83,8 @@ public:
     QList<QModelIndex> IndexWithFilePath(const QString& path) const;
 
     /**
+     * Linear in the children.
+     * @param path the folder
      * @param parent the item whose direct children are looked at; an invalid index for the top level
      * @param hits how many to answer at most, -1 for all
      * @return the "File Path" cells of the children whose folder is exactly @p path, in the order of rows
@@ -94,12 +100,17 @@ public:
     /** @return the section in which the labels of the item's children are looked up */
     QString GetINISection(const QModelIndex& index) const;
 
+    /** @return what the host stored with the item; for a scanned shortcut the path of the shortcut */
     QVariant GetCustomData(const QModelIndex& index) const;
 
     /** @return whether the item's folder may be scanned and watched */
     bool CanFileSysWatch(const QModelIndex& index) const;
 
-    /** @return whether @p op and the item's allowed operations have a bit in common */
+    /**
+     * @param index any cell of the item
+     * @param op one or several bits
+     * @return whether @p op and the item's allowed operations have a bit in common
+     */
     bool IsOpAllowed(const QModelIndex& index, EKTFMOpType op) const;
 
     /**
@@ -138,6 +149,8 @@ public:
     /** Shows an item's label as its tool tip. Off at first. */
     void SetShowTips(bool show);
 
+    /** Sets how labels are shown; FM_SHOW_STRING_BASE_NAME at first. Views are not told: the host updates
+     * them. */
     void SetShowStringMode(EKTFMShowStringMode mode);
 
     /** Sets the host's callbacks, null for none. They stay the host's and must outlive their use here. */
@@ -153,7 +166,11 @@ public:
     /** Does nothing: each item brings the section of its children along. @return false */
     bool SetFileMappingSection(QString section);
 
-    /** Adds a label to show for @p from where the mapping file has none; the first text for a label stays. */
+    /**
+     * Adds a label to show, in FM_SHOW_STRING_INI, where the mapping file has none.
+     * @param from the stored label, exactly
+     * @param to what is shown for it; the first text for a label stays
+     */
     void AddTranslateMap(QString from, QString to);
 
     /**
@@ -173,6 +190,13 @@ public:
      */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+    /**
+     * The header's text: for a column of the six above in the language that the application has now, for a
+     * text that setHeaderData has stored that text. A change of language emits nothing.
+     */
+    QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    /** @return selectable and enabled, and editable while renaming is on and the item allows it */
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
     /** @return "text/uri-list" */
@@ -182,6 +206,7 @@ public:
      */
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
 
+    /** Emits RenameFileError when a failed rename is due to be reported. */
     bool event(QEvent* event) override;
 
 Q_SIGNALS:
@@ -215,6 +240,7 @@ private:
     CKTFMAliasTreeModelInterface* m_pInterface = nullptr;
     QPointer<QFileSystemWatcher> m_pWatcher;
     std::unique_ptr<HostImageCache> m_pHostImages;
+    QStringList m_headers; ///< the texts of the six columns in the language in which the tree was filled
 };
 
 #endif

@@ -24,6 +24,9 @@ class QListWidgetItem;
  * type and date. Items can be dragged out as a list of URLs. The model shows what is on disk at the moment it
  * is asked: each name, size, type and date costs one look at the disk, and nothing is watched.
  *
+ * The path of an index is under Qt::EditRole. A callback that is given an index of this model finds the rest
+ * by its row, since rows stand in the order of AddItem, or by a role of the host's own that the item holds.
+ *
  * Whatever parent is asked about, rowCount and columnCount answer for the whole list, while no item has a
  * parent. Show the model in a list view, or in a tree view whose items cannot be expanded.
  *
@@ -34,6 +37,7 @@ class KTFM_EXPORT CKTFMCustomListModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /** An empty list without columns: see SetHeaderTextList. @param parent owns the model; null for none */
     explicit CKTFMCustomListModel(QObject* parent = nullptr);
     ~CKTFMCustomListModel() override;
 
@@ -53,13 +57,15 @@ public:
 
     /**
      * Sets the horizontal header labels; their number is the number of columns. Emits nothing, so set them
-     * before a view shows the model.
+     * before a view shows the model. Set at least one, for a list view too: a view of a model without columns
+     * paints the names, but "select all" and typing a name find nothing in it.
      */
     void SetHeaderTextList(QStringList texts);
 
     /**
      * Sets who is asked for names and images first; may be null. Not owned, and must outlive the model. Its
-     * tool tips are not asked for: a tip is the shown name here.
+     * tool tips are not asked for: a tip is the shown name here. A host that answers every name itself keeps
+     * painting off the disk.
      */
     void SetInterface(CKTFMListModelInterface* listInterface);
 
@@ -81,17 +87,28 @@ public:
      */
     QImage HandleListviewDecorationRole(const QModelIndex& index) const;
 
-    /** @return an index for any row and column that is not negative; neither is checked against the list */
+    /**
+     * @param row,column the cell
+     * @param parent makes no difference
+     * @return an index for any row and column that is not negative; neither is checked against the list
+     */
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
 
     /**
      * Looks a row up by what data() answers in column 0, exactly. Linear in the number of rows.
+     * @param text what is looked for
+     * @param role the role that is asked, such as Qt::DisplayRole
      * @return the index of the first such row in column 0, an invalid one if there is none
      */
     QModelIndex index(QString text, int role) const;
 
+    /** @return an invalid index: no item has a parent */
     QModelIndex parent(const QModelIndex& child) const override;
+
+    /** @return the number of items, whatever @p parent is */
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+
+    /** @return the number of header texts, whatever @p parent is */
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
 
     /**
@@ -108,7 +125,10 @@ public:
      */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+    /** @return the header's text, aligned to the left; section 0 has a spacer as its decoration */
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
+
+    /** @return the base's flags, with drag and drop enabled; for an invalid index drop alone */
     Qt::ItemFlags flags(const QModelIndex& index) const override;
 
     /** @return "text/uri-list" */
@@ -119,6 +139,14 @@ public:
      *         caller owns it. An item without text stands for no file and is left out.
      */
     QMimeData* mimeData(const QModelIndexList& indexes) const override;
+
+    /**
+     * Takes nothing. The flags let a view offer the list as a target; what a drop means is for the host to
+     * say, in a view that handles its drop events or in a class derived from this one.
+     * @return false
+     */
+    bool dropMimeData(const QMimeData* data, Qt::DropAction action, int row, int column,
+                      const QModelIndex& parent) override;
 
 private:
     QString FileSize(const QModelIndex& index) const;

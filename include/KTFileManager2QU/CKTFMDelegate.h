@@ -17,7 +17,8 @@ class QAbstractItemModel;
  * Paints the thumbnails of a file list and edits their names.
  *
  * An item is its decoration with its name centred below on at most two lines; a name that does not fit is
- * shortened in the middle. A hovered or selected item has a rounded, gradient-filled highlight behind the
+ * shortened in the middle. The name follows the image as large as it is drawn: images of one shape put the
+ * names of a row in line. A hovered or selected item has a rounded, gradient-filled highlight behind the
  * whole cell (hover wins), and a file may have a grey backdrop behind its thumbnail. The name lies inside the
  * spacing that sizeHint adds to the thumbnail: a list view in icon mode whose cells are larger than its icon
  * size leaves it room.
@@ -33,6 +34,7 @@ class KTFM_EXPORT CKTFMDelegate : public QStyledItemDelegate
     Q_OBJECT
 
 public:
+    /** A delegate without models. @param parent owns it; null for none */
     explicit CKTFMDelegate(QObject* parent = nullptr);
     ~CKTFMDelegate() override;
 
@@ -62,6 +64,7 @@ public:
     /**
      * Sets what sizeHint adds to the thumbnail, in pixels; 50 x 50 at first. The horizontal spacing also
      * widens the area of the name beyond the thumbnail, by half of it less 10 on each side.
+     * @param horizontal,vertical what is added to width and height, on both sides together
      */
     void SetItemSpacing(unsigned horizontal, unsigned vertical);
 
@@ -70,7 +73,12 @@ public:
 
     /** Sets whether files have a grey backdrop behind their thumbnail; off at first. */
     void SetDrawOutline(bool draw);
+
+    /** @return whether files have the backdrop */
     bool IsDrawOutline() const;
+
+    /** Sets the colour of every name, whatever the item's state; the grey (112, 110, 110) at first. */
+    void SetNameColor(QColor color);
 
     /**
      * Sets whether the custom model tells folders from files; off at first. Its display text for the item's
@@ -78,12 +86,15 @@ public:
      * resolved against the current folder of the process, so that such items are normally painted as files.
      */
     void SetUseCustomModel(bool use);
+
+    /** @return whether the custom model is asked */
     bool IsUseCustomModel() const;
 
     /** Sets what is called, with the text as it was typed, when a new name is refused; an empty one: nothing.
      */
     void SetRenameFunctor(const std::function<void(QString)>& functor);
 
+    /** Paints highlight, backdrop, decoration and name, in this order. */
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
 
@@ -139,6 +150,7 @@ private:
     bool m_bDrawOutline = false;
     std::function<void(QString)> m_renameFunctor;
     std::unique_ptr<NameLayouts> m_pNameLayouts;
+    QColor m_nameColor;
 };
 
 #endif

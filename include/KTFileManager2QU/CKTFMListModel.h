@@ -30,6 +30,8 @@ class LazyIconProvider;
  * Renaming: `setData` with Qt::EditRole renames on disk. A refused rename returns false and emits
  * RenameFileError later, from the event loop, when the editor has closed.
  *
+ * Setters that change what is shown emit nothing: the host has its views painted anew.
+ *
  * The model owns its profiles and icon provider and borrows the host's interface. A CKTFileManager that
  * creates one never deletes it.
  */
@@ -43,10 +45,20 @@ public:
     ~CKTFMListModel() override;
 
     using QFileSystemModel::index;
+
+    /** @return what the base answers, faster for rows that were asked for before */
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
 
+    /** Emits RenameFileError when a refused rename is due to be reported. */
     bool event(QEvent* event) override;
+
+    /** @return the base's: name, size, type, date modified */
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+
+    /**
+     * Text, tip, edited text and image come from the operations HandleDisplayRole to HandleDecorationRole;
+     * where these answer null, and for other roles, the base answers. The size hint is the row height.
+     */
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /**
@@ -60,6 +72,7 @@ public:
      */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+    /** @return the base's */
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     /** @return selectable, draggable, enabled and childless for every index, editable while renamable */
@@ -115,6 +128,7 @@ public:
     /**
      * Sets the INI file that names are mapped through and shows names by it (FM_SHOW_STRING_INI). The file is
      * read only when the path differs from the present one.
+     * @param path the file
      * @return false for a null path, which changes nothing; a file that cannot be read gives true, and every
      *         name stays as it is
      */
@@ -126,6 +140,8 @@ public:
     /**
      * Sets the INI file and section that tips come from, switches them on, and stops offering renaming in the
      * flags (the base stays as writable as it was).
+     * @param path the file; read only when it differs from the present one
+     * @param section the section of the tips
      * @return false when either text is null, which changes nothing
      */
     bool SetFileTipsMappingFile(QString path, QString section);

@@ -18,6 +18,7 @@ class KTFM_EXPORT CKTFMListView : public QListView
     Q_OBJECT
 
 public:
+    /** A view without model and handler. @param parent owns it; null for a window of its own */
     explicit CKTFMListView(QWidget* parent = nullptr);
     ~CKTFMListView() override;
 

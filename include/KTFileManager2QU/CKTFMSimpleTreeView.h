@@ -17,6 +17,7 @@ class KTFM_EXPORT CKTFMSimpleTreeView : public QTreeView
     Q_OBJECT
 
 public:
+    /** A view without model and handler. @param parent owns it; null for a window of its own */
     explicit CKTFMSimpleTreeView(QWidget* parent = nullptr);
     ~CKTFMSimpleTreeView() override;
 

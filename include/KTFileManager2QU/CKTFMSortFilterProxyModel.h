@@ -29,17 +29,22 @@ class KTFM_EXPORT CKTFMSortFilterProxyModel : public QSortFilterProxyModel
     Q_OBJECT
 
 public:
+    /** A proxy without source, host order and search text. @param parent owns it; null for none */
     explicit CKTFMSortFilterProxyModel(QObject* parent = nullptr);
     ~CKTFMSortFilterProxyModel() override;
 
+    /** Sets the source, which is borrowed. Of one that is no QFileSystemModel, rows are neither sorted nor
+     * searched. */
     void setSourceModel(QAbstractItemModel* sourceModel) override;
 
-    /** Sets the host's order of names; borrowed, null for none. Rows stand as they are until the next
-     * sorting. */
+    /**
+     * Sets the host's order of names; borrowed, null for none. Rows stand as they are until the next sorting:
+     * sort() does that for another column or direction, invalidate() for the present ones.
+     */
     void SetInterface(CCustomSortInterface* pInterface);
 
-    /** Whether the host's order is consulted; false at first. Rows stand as they are until the next sorting.
-     */
+    /** Whether the host's order is consulted; false at first. Rows stand as they are until the next sorting,
+     * as for SetInterface. */
     void SetCustomSort(bool bCustom);
 
     /**
@@ -51,7 +56,11 @@ public:
     void SetSearchTextFilter(const QString& strText);
 
 protected:
+    /** @return whether the shown name of a row holds the search text; true below the root folder's children
+     */
     bool filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const override;
+
+    /** @return whether the row of @p left stands before that of @p right in ascending order */
     bool lessThan(const QModelIndex& left, const QModelIndex& right) const override;
 
 private:

@@ -22,8 +22,8 @@ class LazyIconProvider;
  * images the host may supply, and which renames folders in place. Renaming and names from INI files exclude
  * each other: switching renaming on switches the mapping off.
  *
- * Like CKTFMListModel, no role touches the disk, a refused rename is reported by RenameFileError from the
- * event loop, and a CKTFileManager that creates a model never deletes it.
+ * Like CKTFMListModel, no role touches the disk, setters emit nothing, a refused rename is reported by
+ * RenameFileError from the event loop, and a CKTFileManager that creates a model never deletes it.
  */
 class KTFM_EXPORT CKTFMTreeModel : public QFileSystemModel
 {
@@ -34,10 +34,22 @@ public:
     explicit CKTFMTreeModel(QObject* parent = nullptr);
     ~CKTFMTreeModel() override;
 
+    /** Emits RenameFileError when a refused rename is due to be reported. */
     bool event(QEvent* event) override;
+
+    /** @return the base's answer, false while the model lists no folders */
     bool canFetchMore(const QModelIndex& parent) const override;
+
+    /** Lists a folder in the background, unless the model lists none. */
     void fetchMore(const QModelIndex& parent) override;
+
+    /** @return the base's */
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
+
+    /**
+     * Text, tip and image come from the operations HandleDisplayRole to HandleDecorationRole; where these
+     * answer null, and for other roles, the base answers.
+     */
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
 
     /**
@@ -49,6 +61,7 @@ public:
      */
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
+    /** @return the base's */
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
     /** @return the base's flags, and editable while renamable */
@@ -86,6 +99,7 @@ public:
     /**
      * Sets the INI file that names are mapped through and shows names by it (FM_SHOW_STRING_INI). The file is
      * read only when the path differs from the present one.
+     * @param path the file
      * @return false for a null path, which changes nothing; a file that cannot be read gives true, and every
      *         name stays as it is
      */
@@ -97,6 +111,8 @@ public:
     /**
      * Sets the INI file and section that tips come from, switches them on, and stops offering renaming in the
      * flags (the base stays as writable as it was).
+     * @param path the file; read only when it differs from the present one
+     * @param section the section of the tips
      * @return false when either text is null, which changes nothing
      */
     bool SetFolderTipsMappingFile(QString path, QString section);

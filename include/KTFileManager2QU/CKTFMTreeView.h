@@ -18,6 +18,7 @@ class KTFM_EXPORT CKTFMTreeView : public QTreeView
     Q_OBJECT
 
 public:
+    /** A view without model and handler. @param parent owns it; null for a window of its own */
     explicit CKTFMTreeView(QWidget* parent = nullptr);
     ~CKTFMTreeView() override;
 

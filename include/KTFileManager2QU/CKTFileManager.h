@@ -51,6 +51,9 @@ class QUrl;
  * them from GetListModel(), GetTreeModel() and GetAliasTreeModel() and deletes them after the widget.
  * Callbacks and the parent of message boxes are borrowed.
  *
+ * Settings of highlights, names and tips are stored for the next paint and emit nothing: a host that changes
+ * them while the pane is shown paints the views anew (UpdateWnd for the grid).
+ *
  * Everything runs on the GUI thread.
  */
 class KTFM_EXPORT CKTFileManager : public QWidget
@@ -61,6 +64,7 @@ public:
     /**
      * Builds the pane, usable at once. It shows no folder until SetDirectory.
      *
+     * @param parent owns the widget, as usual with Qt; null for a window of its own
      * @param rect the widget's geometry within @p parent, in pixels
      * @param mode the layout; it never changes. A value beyond the enumeration's shows all three panes.
      * @param leftPanePercent the share of the width that the left pane gets where there are two; the list
@@ -109,12 +113,19 @@ public:
     /** Sets the parent of the message boxes that file commands show; borrowed, null at first. */
     void SetParentForMsgBox(QWidget* parent);
 
-    /** Names the pane that file commands act on; clicks and context menus set it too. The list at first. */
+    /**
+     * Names the pane that file commands act on; clicks and context menus set it too. The list at first.
+     * @param part one pane
+     */
     void SetLastMenuFrom(EKTFMPart part);
 
     /**
      * Sets the host's callbacks: the widget's own and those of the three models. All are borrowed, must live
      * as long as the widget and its models, and may be null.
+     * @param fm hears of events
+     * @param tree is asked for images of the folder tree
+     * @param list is asked for images, names and tips of the file list
+     * @param alias is asked for images and names of the alias tree
      */
     void SetCallBackInterface(CKTFMInterface* fm, CKTFMTreeModelInterface* tree,
                               CKTFMListModelInterface* list, CKTFMAliasTreeModelInterface* alias);
@@ -128,10 +139,16 @@ public:
     /** @return 100 x 100, although presets reach 125 x 125 */
     QSize GetMaxIconSize() const;
 
-    /** Repaints the grid for FM_UPDATE_LIST_VIEW; other values do nothing. */
+    /**
+     * Repaints the grid, as a host wants when it has new images for it.
+     * @param widget FM_UPDATE_LIST_VIEW; other values do nothing
+     */
     void UpdateWnd(EKTFMUpdateWidget widget);
 
-    /** Installs an event filter on the two views of the file list. */
+    /**
+     * Installs an event filter on the two views of the file list.
+     * @param filter as for QObject::installEventFilter; borrowed
+     */
     void InstallEventFilter(QObject* filter);
 
     /**
@@ -148,10 +165,17 @@ public:
      */
     void SetIconSize(EKTFMIconSize size);
 
-    /** Sets the grid margin of a preset, to be used by the next change of icon size or view mode. */
+    /**
+     * Sets the grid margin of a preset, to be used by the next change of icon size or view mode, or by
+     * CalculateItemPosition.
+     * @param size the preset; other values change nothing
+     */
     void SetGridSize(EKTFMGridSize size);
 
-    /** Sets the grid margin in pixels, to be used by the next change of icon size or view mode. */
+    /**
+     * Sets the grid margin, to be used like that of SetGridSize.
+     * @param width,height what a cell is larger than its image, in pixels
+     */
     void SetGridMargin(int width, int height);
 
     /**
@@ -198,6 +222,7 @@ public:
     /**
      * Makes an item of the file list current, in the view that is shown.
      *
+     * @param path the item's path
      * @param notify whether the host is told as if the item had been clicked
      * @param edit whether to start renaming it
      * @return false when the model does not list @p path; the selection is then cleared
@@ -229,6 +254,7 @@ public:
     /**
      * @return every file below the listed folder whose name matches @p nameFilters. Reads all the folders
      * below, without following links.
+     * @param nameFilters patterns such as "*.png"; an empty list matches every file
      */
     QStringList GetAllFilePathFromListView(const QStringList& nameFilters) const;
 
@@ -236,12 +262,16 @@ public:
      * Sets the background of the folder tree and of both views of the file list by style sheets; the alias
      * tree keeps its own. The views get the object names "pTreeView", "pListView" and "pListDetailView", for
      * style sheets of the host.
+     * @param treeColor the folder tree's background
+     * @param listColor that of both views of the file list
      */
     void SetBgColor(QColor treeColor, QColor listColor);
 
     /**
      * Styles a scroll bar of the icon grid.
-     * @param vertical which bar: the vertical one gets @p width, the horizontal one @p height, in pixels
+     * @param vertical which bar
+     * @param width the thickness of the vertical bar, in pixels
+     * @param height the thickness of the horizontal bar, in pixels
      * @param color stands in the style sheet with an opacity of 0, on purpose, and so is not seen
      */
     void SetListviewScrollBarStyle(bool vertical, int width, int height, QColor color);
@@ -252,13 +282,25 @@ public:
     /** Lets the grid fill rows and scroll vertically, or fill columns and scroll horizontally. */
     void SetListviewScrollBarDirection(bool vertical);
 
-    /** Sets the highlight of hovered or selected thumbnails: see CKTFMDelegate::SetItemHoverColor. */
+    /**
+     * Sets the highlight of hovered or selected thumbnails: see CKTFMDelegate::SetItemHoverColor.
+     * @param status which of the two
+     * @param c1,c2 the ends of the gradient, top and bottom
+     * @param c3 the frame, one pixel wide
+     * @param n the radius of the corners, in pixels
+     */
     void SetItemDisplayInfo(EItemStatus status, QColor c1, QColor c2, QColor c3, int n);
 
-    /** Sets the border around each thumbnail, in pixels a side. */
+    /**
+     * Sets the border around each thumbnail.
+     * @param width,height pixels on each side; negative ones count as 0
+     */
     void SetItemBorder(int width, int height);
 
-    /** Sets the height of a thumbnail's name, in lines of its font. */
+    /**
+     * Sets the height of a thumbnail's name.
+     * @param ratio lines of its font; 2 at first
+     */
     void SetHeightRatioOfTextArea(float ratio);
 
     /** Whether the thumbnails of files have a grey backdrop. */
@@ -267,20 +309,35 @@ public:
     /**
      * Switches interactions on or off for panes.
      * @param parts a set of EKTFMPart bits
-     * @param flags a set of bits: 1 renaming, 2 tool tips, 4 dragging
+     * @param flags a set of bits: 1 renaming, 2 tool tips, 4 dragging; all are off at first
+     * @param on whether they are switched on or off; others stay as they are
      */
     void SetFlagStatus(int parts, int flags, bool on);
 
-    /** Sets how a pane's names are shown. */
+    /**
+     * Sets how a pane's names are shown.
+     * @param part one pane
+     * @param mode FM_SHOW_STRING_BASE_NAME at first
+     */
     void SetFMViewShowStringMode(EKTFMPart part, EKTFMShowStringMode mode);
 
     /**
      * Sets the INI file and section that a pane's names are mapped through. The alias tree takes its sections
      * from its items and passes over @p section.
+     *
+     * The file is read at once, and again only when another path is set. One that cannot be read is not
+     * reported: its names count as not found.
+     * @param part one pane; its names are shown by FM_SHOW_STRING_INI from now on
+     * @param file the path; a null one changes nothing
+     * @param section the section's name; a null one leaves it as it was
      */
     void SetFilenameMappingINIFile(EKTFMPart part, const QString& file, const QString& section);
 
-    /** Sets the section alone, for the folder tree or the file list. */
+    /**
+     * Sets the section alone.
+     * @param part FM_PART_TREE or FM_PART_LIST; others change nothing
+     * @param section the section's name; a null one changes nothing
+     */
     void SetFilenameMappingINISection(EKTFMPart part, const QString& section);
 
     /**
@@ -312,6 +369,7 @@ public:
      * and so scanned, along the search and stay so when it fails. It goes 2048 levels deep, more than a path
      * has.
      *
+     * @param strPath the folder
      * @param start where to search; an invalid index stands for the first top-level item alone
      * @return whether it was found. The last two arguments are accepted and passed over.
      */
@@ -345,7 +403,12 @@ public:
     /** @return whether the clipboard holds URLs, of whatever kind */
     bool IsPasteable();
 
-    /** The point lies in @p widget's rectangle, edges included, whether or not the widget is seen. */
+    /**
+     * @param widget any widget
+     * @param globalPos a point on the screen, in pixels
+     * @return whether the point lies in the widget's rectangle, edges included, whether or not the widget is
+     * seen
+     */
     bool IsGlobalPositionInWidget(const QWidget* widget, const QPoint& globalPos) const;
 
 public Q_SLOTS:
@@ -428,7 +491,10 @@ Q_SIGNALS:
     void OnError(int nFrom, int nActionID, int nErrorID);
 
 protected:
+    /** Spreads the columns of the grid: see CalculateItemPosition. */
     void resizeEvent(QResizeEvent* event) override;
+
+    /** Spreads the columns of the grid: see CalculateItemPosition. */
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -52,6 +52,8 @@ public:
      * blanks at its ends or an empty one.
      *
      * @param value receives the text; left as it was when nothing is found, so that it may hold a fallback
+     * @param section the section's name; empty for the entries before the first one
+     * @param key the key's name
      * @return code ResultDone, or ResultFailed when nothing is loaded or the key is not there
      */
     Result GetValue(std::wstring& value, std::wstring section, std::wstring key) const;

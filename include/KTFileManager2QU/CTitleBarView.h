@@ -56,6 +56,7 @@ public:
     /**
      * Asks the bar's interface for the text, the tool tip and the folder of @p index.
      * @param parent the bar (a CTitleBarView)
+     * @param index the folder, of whatever model the host uses
      */
     CTitleBarButton(QWidget* parent, QModelIndex& index);
     ~CTitleBarButton() override;
@@ -96,10 +97,16 @@ public:
     /** @return the index that the button was made for; not kept up to date when the model changes */
     QModelIndex GetModelIndex() const;
 
+    /** @return the folder that the host named when the button was made */
     QDir GetCurrentDir() const;
+
+    /** @return the path of that folder */
     QString GetCurrentPath() const;
 
+    /** @return the opacity as it was set */
     int Opacity() const;
+
+    /** Sets the opacity, from 0 to 255, and has the button painted anew. */
     void setOpacity(int opacity);
 
 protected:
@@ -144,6 +151,7 @@ public:
     /**
      * A bar without buttons. It takes the limits of its size and its size policy from @p parent, which may
      * be null.
+     * @param parent owns the bar, as usual with Qt
      * @param slotInterface the host, not owned; it must outlive the bar. May be null.
      */
     CTitleBarView(QWidget* parent, CTitleBarSlotInterface* slotInterface);
@@ -165,6 +173,7 @@ public:
      *
      * Only the current folder is looked up on disk, as far as its first sub-folder: without one, its button
      * has no menu.
+     * @param index the current folder, of whatever model the host uses
      * @param force whether to rebuild the bar although it shows @p index already; needed after the model
      *        has changed, since neither the bar nor its buttons follow that
      * @return code KT::ResultDone, or KT::ResultNothingToDo when the bar shows @p index already or is just
@@ -188,6 +197,7 @@ public:
     /** @return the number of buttons */
     int GetToolButtonSize();
 
+    /** @return the host that the bar was made for; may be null */
     CTitleBarSlotInterface* GetTitleBarInterface() const;
 
     /** Sets the icon of the top-most button; shown from the next rebuild on, if SetRootItemUseIcon is set. */
@@ -196,6 +206,7 @@ public:
     /** Whether the top-most button shows the root icon instead of its text, from the next rebuild on. */
     void SetRootItemUseIcon(bool use);
 
+    /** @return whether the top-most button shows the root icon */
     bool IsRootItemUseIcon() const;
 
 private:

@@ -27,11 +27,16 @@ class QWidget;
 class CKTFMInterface
 {
 public:
-    /** An existing item of the file list was clicked or activated. */
+    /**
+     * An existing item of the file list was clicked or activated. A double click gives another one at its
+     * end, for the activation.
+     * @param absolutePath the item's path, with "/" separators
+     */
     virtual void OnLButtonClickListItem(QString absolutePath) { Q_UNUSED(absolutePath) }
 
     /**
      * An existing item of the file list was double-clicked.
+     * @param absolutePath the item's path, with "/" separators
      * @param isFolder true when the widget has opened a folder, false for a file, which is the host's to open
      */
     virtual void OnLButtonDblClickListItem(QString absolutePath, bool isFolder)
@@ -40,11 +45,15 @@ public:
         Q_UNUSED(isFolder)
     }
 
-    /** An existing folder of the folder tree was clicked or activated. */
+    /**
+     * An existing folder of the folder tree was clicked or activated; the file list shows it afterwards.
+     * @param absolutePath the folder's path, with "/" separators
+     */
     virtual void OnLButtonClickTreeItem(QString absolutePath) { Q_UNUSED(absolutePath) }
 
     /**
-     * A context menu is requested; the host fills CKTFileManager::GetContextMenu() during this call.
+     * A context menu is requested; the host fills CKTFileManager::GetContextMenu() during this call. It may
+     * do anything here, deleting the widget included.
      * @param pane 1 folder tree, 2 file list, 3 alias tree
      * @param onItem whether the pointer is over an item
      */
@@ -54,24 +63,41 @@ public:
         Q_UNUSED(onItem)
     }
 
-    /** The file list's selection changed. The indexes are those of the list views' model. */
+    /**
+     * The file list's selection changed. The widget is in the middle of its own work: what changes folder or
+     * selection is to be put off.
+     * @param selected what is selected now and was not, as indexes of the list views' model
+     * @param deselected what was selected and is not any more
+     */
     virtual void OnListViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
     {
         Q_UNUSED(selected)
         Q_UNUSED(deselected)
     }
 
-    /** The folder tree's selection changed. The indexes are those of CKTFileManager::GetTreeModel(). */
+    /**
+     * The folder tree's selection changed; that of the file list is empty by now. See
+     * OnListViewSelectionChanged.
+     * @param selected what is selected now and was not, as indexes of CKTFileManager::GetTreeModel()
+     * @param deselected what was selected and is not any more
+     */
     virtual void OnTreeViewSelectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
     {
         Q_UNUSED(selected)
         Q_UNUSED(deselected)
     }
 
-    /** The file list shows another folder. */
+    /**
+     * The file list gets another folder. The widget is in the middle of showing it: navigation is to be put
+     * off.
+     * @param newPath the folder's path
+     */
     virtual void OnListViewRootPathChanged(const QString& newPath) { Q_UNUSED(newPath) }
 
-    /** The folder tree has another root. */
+    /**
+     * The folder tree gets another root. See OnListViewRootPathChanged.
+     * @param newPath the root's path
+     */
     virtual void OnTreeViewRootPathChanged(const QString& newPath) { Q_UNUSED(newPath) }
 };
 
@@ -79,17 +105,29 @@ public:
 class CKTFMListModelInterface
 {
 public:
-    /** @return the item's image; a null image leaves it to the model */
+    /**
+     * Asked for each column of a table: answer a null image for all but the first to have one image a row. It
+     * is asked at each painting; an image that is kept, rather than made anew, is converted once.
+     * @param index one of the model, in any column
+     * @return the item's image; a null image leaves it to the model
+     */
     virtual QImage HandleListviewDecorationRole(const QModelIndex& index) = 0;
 
-    /** @return the item's shown name; an empty text leaves it to the model */
+    /**
+     * Asked at each paint and for each item of a folder that is sorted.
+     * @param index one of the model, in column 0
+     * @return the item's shown name; an empty text leaves it to the model
+     */
     virtual QString HandleListviewDisplayRole(const QModelIndex& index)
     {
         Q_UNUSED(index)
         return QString();
     }
 
-    /** @return the item's tip; a null text (the default) leaves it to the model, an empty one means no tip */
+    /**
+     * @param index one of the model, in column 0
+     * @return the item's tip; a null text (the default) leaves it to the model, an empty one means no tip
+     */
     virtual QString HandleListviewToolTipRole(const QModelIndex& index)
     {
         Q_UNUSED(index)
@@ -101,7 +139,11 @@ public:
 class CKTFMTreeModelInterface
 {
 public:
-    /** @return the folder's image; a null image leaves it to the model */
+    /**
+     * Asked at each paint, so to be answered from memory, with the same QImage object each time.
+     * @param index one of the model, in any column
+     * @return the folder's image; a null image leaves it to the model
+     */
     virtual QImage HandleTreeviewDecorationRole(const QModelIndex& index) = 0;
 };
 
@@ -109,10 +151,17 @@ public:
 class CKTFMAliasTreeModelInterface
 {
 public:
-    /** @return the item's image; a null image leaves it to the model */
+    /**
+     * Asked at each paint, so to be answered from memory, with the same QImage object each time.
+     * @param index one of the model, in any column
+     * @return the item's image; with a null image it has none
+     */
     virtual QImage HandleAliasTreeViewDecorationRole(const QModelIndex& index) = 0;
 
-    /** @return the item's shown name; an empty text leaves it to the model */
+    /**
+     * @param index one of the model, in column 0
+     * @return the item's shown name; an empty text leaves it to the model
+     */
     virtual QString HandleAliasTreeViewDisplayRole(const QModelIndex& index)
     {
         Q_UNUSED(index)
@@ -124,7 +173,12 @@ public:
 class CKTFMContextMenuHandleInterface
 {
 public:
-    /** A context menu is requested in @p view, which handles the event as usual afterwards. */
+    /**
+     * A context menu is requested.
+     * @param view the view, which leaves the event to its parent widget afterwards; it must not be deleted
+     * here
+     * @param event what was requested, with the position in the view and on the screen
+     */
     virtual void HandleContextMenuEvent(QWidget* view, QContextMenuEvent* event) = 0;
 };
 
@@ -134,7 +188,12 @@ class CCustomSortInterface
 public:
     /**
      * Compares two rows. The answers must make an order: the same for the same rows while a sort goes on, and
-     * never true both ways round. The files are seen in one state throughout a sort.
+     * never true both ways round. The files are seen in one state throughout a sort. A file's name and suffix
+     * cost nothing; any other fact is looked up on disk when it is first asked for in a sort.
+     *
+     * The built-in rule shows names from A to Z in descending order. To show the host's order as it is, sort
+     * with Qt::AscendingOrder; rows that it leaves to the built-in rule then run from Z to A.
+     * @param left,right the files of the two rows
      * @param handled false on entry; set it to true to have the returned value taken as the answer, leave it
      *        to have the rows compared by the built-in rule
      * @return whether @p left sorts before @p right in ascending order
@@ -146,19 +205,34 @@ public:
 class CTitleBarSlotInterface
 {
 public:
-    /** The button that stands for @p index was clicked. */
+    /**
+     * A button was clicked. The host may do anything here, deleting the bar included.
+     * @param index the folder that the button stands for
+     */
     virtual void OnTitleBarButtonClicked(const QModelIndex& index) = 0;
 
-    /** The entry that stands for the folder @p path was chosen in a button's menu. */
+    /**
+     * A folder was chosen in a button's menu. The host may do anything here, deleting the bar included.
+     * @param path the folder's path
+     */
     virtual void OnTitleBarMenuTriggered(const QString& path) = 0;
 
-    /** @return the text and tool tip of the button for @p index */
+    /**
+     * @param index one that the bar was given, one above it, or one that GetTitleBarIndexFromPath answered
+     * @return the text and tool tip of the folder's button or menu entry
+     */
     virtual QString GetTitleBarDisplayName(const QModelIndex& index) = 0;
 
-    /** @return the folder that the button for @p index stands for */
+    /**
+     * @param index one that the bar was given, or one above it
+     * @return the path of the folder that its button stands for
+     */
     virtual QString GetTitleBarPath(const QModelIndex& index) = 0;
 
-    /** @return the index of a folder, to label its menu entry; an invalid one keeps the folder's own name */
+    /**
+     * @param path the path of a sub-folder
+     * @return the index of the folder, to label its menu entry; an invalid one keeps the folder's own name
+     */
     virtual QModelIndex GetTitleBarIndexFromPath(const QString& path) = 0;
 };
 

@@ -80,11 +80,11 @@ enum EKTFMCommand : int
 /** Selection behaviour of the file list; the values are those of QAbstractItemView::SelectionMode. */
 enum EKTFMSelectionMode : int
 {
-    FM_SELECTION_NONE = 0,
-    FM_SELECTION_SINGLE = 1,
-    FM_SELECTION_MULTI = 2,
-    FM_SELECTION_EXTENDED = 3,
-    FM_SELECTION_CONTIGUOUS = 4
+    FM_SELECTION_NONE = 0,      ///< nothing can be selected
+    FM_SELECTION_SINGLE = 1,    ///< one item (at first)
+    FM_SELECTION_MULTI = 2,     ///< a click selects an item and deselects it again
+    FM_SELECTION_EXTENDED = 3,  ///< several items, with Shift and Ctrl
+    FM_SELECTION_CONTIGUOUS = 4 ///< several items side by side, with Shift
 };
 
 /** The part of the widget that CKTFileManager::UpdateWnd repaints. */
@@ -121,6 +121,7 @@ enum EKTFMOpType : int
     FM_OP_RENAME = 32 ///< the item's folder may be renamed
 };
 
+/** What stands apart from the pane: the INI profile reader and the outcomes of operations. */
 namespace KT {
 
 /** The outcome of an operation of the breadcrumb bar or of the INI profile reader. */

@@ -16,7 +16,11 @@
 class KTFM_EXPORT TreeItem
 {
 public:
-    /** An item without children. It is not listed in @p parent until appendChild is called there. */
+    /**
+     * An item without children.
+     * @param data its values, one for each column
+     * @param parent borrowed, null for a root; it does not list the item until appendChild is called there
+     */
     TreeItem(const QVector<QVariant>& data, TreeItem* parent);
 
     /**
@@ -53,7 +57,12 @@ public:
     /** @return the value in @p column, an invalid one when there is no such column */
     QVariant data(int column) const;
 
-    /** Replaces a value. @return false when there is no such column */
+    /**
+     * Replaces a value.
+     * @param column from 0 to columnCount() - 1
+     * @param value the new one, shared with the caller as usual with Qt
+     * @return false when there is no such column
+     */
     bool setData(int column, const QVariant& value);
 
     /**

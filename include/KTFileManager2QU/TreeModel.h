@@ -24,18 +24,24 @@ class KTFM_EXPORT TreeModel : public QAbstractItemModel
     Q_OBJECT
 
 public:
+    /** An empty model. @param parent owns it; null for none */
     explicit TreeModel(QObject* parent = nullptr);
     ~TreeModel() override;
 
     using QObject::parent;
 
+    /** @return the index of a cell; an invalid one when there is no such row or the row has no such column */
     QModelIndex index(int row, int column, const QModelIndex& parent = QModelIndex()) const override;
 
     /** @return the parent in column 0; an invalid index for a top-level item. See TreeItem::row for the cost.
      */
     QModelIndex parent(const QModelIndex& index) const override;
 
+    /** @return the number of children, whichever cell of an item is asked about */
     int rowCount(const QModelIndex& parent = QModelIndex()) const override;
+
+    /** @return the number of cells of the item itself, by which its children are reached; of the header for
+     * none */
     int columnCount(const QModelIndex& parent = QModelIndex()) const override;
 
     /** @return the stored value for Qt::DisplayRole and Qt::EditRole, an invalid one for any other role */
@@ -101,6 +107,7 @@ protected:
      * endResetModel.
      *
      * @param headers the texts of the header, one for each column
+     * @param data the items, as above
      * @return true
      */
     virtual bool SetupTree(const QStringList& headers, const QString& data);

@@ -1,4 +1,5 @@
 #include "models/CollationKey.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -104,6 +105,8 @@ private Q_SLOTS:
 
 void tst_CollationKey::runsInTheLocaleOfTheEnvironment()
 {
+    if (!TestPlatform::TakesLocaleFromEnvironment())
+        QSKIP("the user's settings choose the locale");
     const QString asked = QString::fromLatin1(qgetenv("LC_ALL")).section(QLatin1Char('.'), 0, 0);
     QCOMPARE(QLocale().name(), asked);
 }

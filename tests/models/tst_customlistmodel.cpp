@@ -5,6 +5,7 @@
 #include "tests/support/TestMain.h"
 
 #include <QAbstractItemModelTester>
+#include <QDropEvent>
 #include <QIdentityProxyModel>
 #include <QListView>
 #include <QListWidgetItem>
@@ -175,6 +176,9 @@ private Q_SLOTS:
     void mimeDataKeepsTheOrderGiven();
     void mimeDataOfNothingIsEmpty();
     void mimeDataLeavesOutItemsWithoutText();
+    void droppedFilesAreLeftToTheHost();
+    void pathOfAnIndexIsUnderTheEditRole();
+    void viewSelectsAndFindsItemsOnceThereIsAColumn();
     void hostMayEmptyTheModelWhileItIsAsked();
     void strangeIndexesAreHarmless();
     void strangePathsAreHarmless();
@@ -896,6 +900,49 @@ void tst_CustomListModel::mimeDataLeavesOutItemsWithoutText()
     const QScopedPointer<QMimeData> mime(
         model.mimeData({model.index(0, 0), model.index(1, 0), model.index(2, 0), QModelIndex()}));
     QCOMPARE(mime->urls(), QList<QUrl>{QUrl::fromLocalFile(item.text())});
+}
+
+void tst_CustomListModel::droppedFilesAreLeftToTheHost()
+{
+    QListWidgetItem item(QStringLiteral("/x/1"));
+    CKTFMCustomListModel model;
+    model.AddItem(&item);
+    QListView view;
+    view.setViewMode(QListView::IconMode); // takes drops unless told otherwise
+    view.setModel(&model);
+    view.resize(300, 200);
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(QStringLiteral("/x/2")), QUrl::fromLocalFile(QStringLiteral("/x/3"))});
+    QDropEvent drop(QPointF(150, 150), Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(view.viewport(), &drop);
+    QCOMPARE(model.rowCount(), 1);
+    QVERIFY(!model.dropMimeData(&files, Qt::CopyAction, 0, 0, model.index(0, 0)));
+    QCOMPARE(model.rowCount(), 1);
+}
+
+void tst_CustomListModel::pathOfAnIndexIsUnderTheEditRole()
+{
+    QListWidgetItem item(QStringLiteral("/x/name.txt"));
+    CKTFMCustomListModel model;
+    model.AddItem(&item);
+    QCOMPARE(model.index(0, 0).data(Qt::EditRole).toString(), item.text());
+}
+
+void tst_CustomListModel::viewSelectsAndFindsItemsOnceThereIsAColumn()
+{
+    QListWidgetItem first(QStringLiteral("/x/one"));
+    QListWidgetItem second(QStringLiteral("/x/two"));
+    CKTFMCustomListModel model;
+    model.SetHeaderTextList({QStringLiteral("Name")});
+    model.AddItem(&first);
+    model.AddItem(&second);
+    QListView view;
+    view.setSelectionMode(QAbstractItemView::ExtendedSelection);
+    view.setModel(&model);
+    view.keyboardSearch(QStringLiteral("tw"));
+    QCOMPARE(view.currentIndex(), model.index(1, 0));
+    view.selectAll();
+    QCOMPARE(view.selectionModel()->selectedRows().size(), 2);
 }
 
 void tst_CustomListModel::hostMayEmptyTheModelWhileItIsAsked()

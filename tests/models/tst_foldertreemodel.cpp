@@ -5,6 +5,7 @@
 #include "tests/support/ConfinedModel.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -480,17 +481,22 @@ void tst_FolderTreeModel::renamesAreDone_data()
     QTest::addColumn<QString>("typed");
     QTest::newRow("plain") << "b";
     QTest::newRow("nothing is appended") << "b.new";
-    QTest::newRow("blanks stay") << "  b  ";
-    QTest::newRow("blanks alone are a name") << "   ";
-    QTest::newRow("dot at the end") << "b.";
-    QTest::newRow("forbidden characters behind the last dot") << "b.?*";
-    QTest::newRow("line break") << "b\nc";
-    QTest::newRow("another letter case") << "A.D";
+    QTest::newRow("blanks in front stay") << "  b";
+    if (TestPlatform::AllowsAllNames()) {
+        QTest::newRow("blanks stay") << "  b  ";
+        QTest::newRow("blanks alone are a name") << "   ";
+        QTest::newRow("dot at the end") << "b.";
+        QTest::newRow("forbidden characters behind the last dot") << "b.?*";
+        QTest::newRow("line break") << "b\nc";
+    }
+    if (TestPlatform::TellsLetterCase())
+        QTest::newRow("another letter case") << "A.D";
     QTest::newRow("255 bytes") << QString(255, QLatin1Char('x'));
 }
 
 void tst_FolderTreeModel::renamesAreDone()
 {
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
     QFETCH(QString, typed);
     TestFolder folder;
     folder.File(QStringLiteral("a.d/content.txt"), "content");
@@ -558,6 +564,7 @@ void tst_FolderTreeModel::renameToThePresentNameDoesNothing()
 
 void tst_FolderTreeModel::renameOfAVanishedFolderIsRefused()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     TestFolder folder;
     const QString path = folder.Folder(QStringLiteral("a"));
     Fixture tree(folder);
@@ -639,6 +646,7 @@ void tst_FolderTreeModel::indexesOfOtherModelsAreRefused()
 
 void tst_FolderTreeModel::removedFolderLeavesTheTree()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     TestFolder folder;
     folder.Folder(QStringLiteral("shown/a"));
     folder.Folder(QStringLiteral("shown/b"));

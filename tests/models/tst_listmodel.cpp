@@ -3,6 +3,7 @@
 
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>
 #include <QFileIconProvider>
@@ -139,6 +140,7 @@ private Q_SLOTS:
     void hostTipWinsEvenWhenEmpty();
     void hostWithoutTipsLeavesThemToTheModel();
     void hostImageBecomesTheIcon();
+    void hostGivesAnImageToEachColumn();
     void nullHostImageLeavesThePlatformIcon();
     void textAlignmentByColumn();
     void rowsAskForThirtyPixelsUntilToldOtherwise();
@@ -423,6 +425,21 @@ void tst_ListModel::hostImageBecomesTheIcon()
     QCOMPARE(icon.pixmap(16, 16).toImage().pixelColor(8, 8), QColor(Qt::magenta));
 }
 
+void tst_ListModel::hostGivesAnImageToEachColumn()
+{
+    TestFolder folder;
+    folder.File(QStringLiteral("a.txt"));
+    Fixture list(folder);
+    Host host;
+    const QModelIndex name = list.Index(QStringLiteral("a.txt"));
+    list.m_model.SetInterface(&host);
+    for (int column = 1; column < list.m_model.columnCount(); ++column)
+        QVERIFY(list.m_model.data(name.siblingAtColumn(column), Qt::DecorationRole).isNull());
+    host.m_image = QImage(16, 16, QImage::Format_RGB32);
+    for (int column = 1; column < list.m_model.columnCount(); ++column)
+        QVERIFY(!list.m_model.data(name.siblingAtColumn(column), Qt::DecorationRole).value<QIcon>().isNull());
+}
+
 void tst_ListModel::nullHostImageLeavesThePlatformIcon()
 {
     TestFolder folder;
@@ -617,9 +634,11 @@ void tst_ListModel::renamesAreDone_data()
     QTest::newRow("other extension is not an extension") << "a.txt"
                                                          << "b.doc"
                                                          << "b.doc.txt";
-    QTest::newRow("forbidden characters behind the last dot") << "a.tx?t"
-                                                              << "b"
-                                                              << "b.tx?t";
+    if (TestPlatform::AllowsAllNames()) {
+        QTest::newRow("forbidden characters behind the last dot") << "a.tx?t"
+                                                                  << "b"
+                                                                  << "b.tx?t";
+    }
     QTest::newRow("several dots") << "a.tar.gz"
                                   << "b.tar"
                                   << "b.tar.gz";
@@ -637,10 +656,6 @@ void tst_ListModel::renamesAreDone()
     QFETCH(QString, oldName);
     QFETCH(QString, typed);
     QFETCH(QString, newName);
-#ifdef Q_OS_WIN
-    if (oldName.contains(QLatin1Char('?')))
-        QSKIP("such a file cannot be made here");
-#endif
     TestFolder folder;
     folder.File(oldName, "content");
     Fixture list(folder);
@@ -737,6 +752,7 @@ void tst_ListModel::renamedFileWithoutExtensionGetsADot()
 
 void tst_ListModel::renamedFolderGetsNoExtension()
 {
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
     TestFolder folder;
     folder.Folder(QStringLiteral("old.d"));
     Fixture list(folder);
@@ -840,6 +856,7 @@ void tst_ListModel::sortIsLeftToAProxyWhenTold()
 
 void tst_ListModel::foldersThatVanishLeaveAnEmptyList()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     TestFolder folder;
     folder.File(QStringLiteral("shown/a.txt"));
     folder.File(QStringLiteral("shown/b.txt"));

@@ -7,6 +7,7 @@
 #include "tests/support/ConfinedModel.h"
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QAbstractItemModelTester>
 #include <QDir>
@@ -183,7 +184,10 @@ void MakeVariety(const TestFolder& folder)
     SparseFile(folder, QStringLiteral("half.png"), 2 * GiB + 5, Day(1));
     SparseFile(folder, QStringLiteral("three.PNG"), 3 * GiB, Day(3));
     SparseFile(folder, QStringLiteral("empty.txt"), 0, Day(7));
-    SparseFile(folder, QStringLiteral("Empty.txt"), 0, Day(7));
+    // The same name in another letter case where that is another name.
+    SparseFile(folder,
+               TestPlatform::TellsLetterCase() ? QStringLiteral("Empty.txt") : QStringLiteral("Empty2.txt"),
+               0, Day(7));
     SparseFile(folder, QStringLiteral("\u00e4rger"), 10, Day(8));
     SparseFile(folder, QStringLiteral("zebra"), 10, QDateTime(QDate(1960, 1, 1), QTime(0, 0), Qt::UTC));
     folder.Folder(QStringLiteral("a folder"));
@@ -220,6 +224,7 @@ private Q_SLOTS:
     void hostOrderDecidesNamesAlone();
     void hostOrderThatHandlesNothingChangesNothing();
     void hostOrderNeedsBothSwitches();
+    void hostOrderShowsWithTheNextSorting();
     void hostSeesAFileInOneStateWhileSorting();
 
     void largeFolderStaysSortedThroughChanges_data();
@@ -637,6 +642,32 @@ void tst_SortFilterProxy::hostOrderNeedsBothSwitches()
     proxy.SetInterface(nullptr);
     QVERIFY(proxy.lessThan(longer, shorter));
     QCOMPARE(host.m_calls, 1);
+}
+
+void tst_SortFilterProxy::hostOrderShowsWithTheNextSorting()
+{
+    TestFolder folder;
+    folder.File(QStringLiteral("aaa"));
+    folder.File(QStringLiteral("b"));
+    Source source(folder.Path());
+    const QModelIndex root = source.Load(folder.Path());
+    ByLength host;
+    HostProxy proxy;
+    proxy.SetInterface(&host);
+    proxy.setSourceModel(&source);
+    proxy.sort(0, Qt::DescendingOrder);
+    QCOMPARE(Shown(proxy, root), (QStringList{QStringLiteral("aaa"), QStringLiteral("b")}));
+    proxy.sort(0, Qt::AscendingOrder);
+    QCOMPARE(Shown(proxy, root), (QStringList{QStringLiteral("b"), QStringLiteral("aaa")}));
+    proxy.sort(0, Qt::DescendingOrder);
+    proxy.SetCustomSort(true);
+    proxy.sort(0, Qt::DescendingOrder);
+    QCOMPARE(host.m_calls, 0);
+    proxy.invalidate();
+    QCOMPARE(Shown(proxy, root), (QStringList{QStringLiteral("aaa"), QStringLiteral("b")}));
+    QVERIFY(host.m_calls > 0);
+    proxy.sort(0, Qt::AscendingOrder);
+    QCOMPARE(Shown(proxy, root), (QStringList{QStringLiteral("b"), QStringLiteral("aaa")}));
 }
 
 void tst_SortFilterProxy::hostSeesAFileInOneStateWhileSorting()

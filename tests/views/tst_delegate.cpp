@@ -54,6 +54,7 @@ private Q_SLOTS:
     void thumbnailIsDrawnPlainWhenSelected();
     void nameIsDrawnInItsAreaInGray();
     void nameHasOneColourInEveryState();
+    void nameHasTheColourThatTheHostSets();
     void nameAreaFollowsSpacingAndRatio();
     void longNameStaysInItsArea();
     void absurdSettingsArePainted_data();
@@ -690,6 +691,18 @@ void tst_Delegate::nameHasOneColourInEveryState()
     QCOMPARE(grid.Picture().copy(area), plain);
     grid.view.setEnabled(false);
     QCOMPARE(grid.Picture().copy(area), plain);
+}
+
+void tst_Delegate::nameHasTheColourThatTheHostSets()
+{
+    TextGrid grid({QString(3, Block)});
+    const QModelIndex index = grid.model.index(0, 0);
+    const QColor color(20, 40, 160);
+    grid.view.setGridSize(QSize(300, 300));
+    grid.delegate->SetNameColor(color);
+    const QRect area = grid.NameAreaOf(index);
+    QVERIFY(!BoundsOf(grid.Picture(), color.rgb(), area).isEmpty());
+    QVERIFY(BoundsOf(grid.Picture(), qRgb(112, 110, 110), area).isEmpty());
 }
 
 void tst_Delegate::nameAreaFollowsSpacingAndRatio()

@@ -1,4 +1,5 @@
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 #include "views/NameLayouts.h"
 
 #include <QPainter>
@@ -117,6 +118,7 @@ void tst_NameLayouts::wordThatCannotWrapIsBrokenWhereItIsShortened()
 
 void tst_NameLayouts::nameThatStillWrapsAsBeforeIsShortenedToOneLine()
 {
+    KTFM_SKIP_ON_WINE("letters are a little narrower there, and two lines hold this name");
     // Three lines, which the width of two lines cannot hold because of the blanks at their ends.
     const QString name = Word(7) + QLatin1Char(' ') + Word(7) + QLatin1Char(' ') + Word(7);
     const int width = WidthOf(Word(10));

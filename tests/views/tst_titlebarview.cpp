@@ -3,6 +3,7 @@
 
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QFileSystemModel>
 #include <QHBoxLayout>
@@ -481,6 +482,7 @@ void tst_TitleBarView::rootShowsOnlyTheIcon()
     f.Show(f.folder.Path());
     QCOMPARE(f.Root()->text(), QString());
     QCOMPARE(f.Root()->toolTip(), QStringLiteral("Computer"));
+    QCOMPARE(f.Root()->accessibleName(), QStringLiteral("Computer"));
     QVERIFY(!f.Root()->icon().isNull());
     QVERIFY(!f.Current()->text().isEmpty());
     QVERIFY(f.Current()->icon().isNull());
@@ -666,8 +668,11 @@ void tst_TitleBarView::shellLinkStandsForItsTarget()
     WhenAMenuOpens([](QMenu* menu) { ClickEntry(menu, QStringLiteral("Work")); });
     ClickArrow(f.Current());
     QCOMPARE(f.host.triggered, QStringList{target});
-    QVERIFY(ActionNamed(f.Current(), QStringLiteral("Home")));
-    QCOMPARE(ActionNamed(f.Current(), QStringLiteral("Home"))->m_strPath, target);
+    // Shell links are what the system takes for some, and that goes by the letter case of their end.
+    if (TestPlatform::HasSymbolicLinks()) {
+        QVERIFY(ActionNamed(f.Current(), QStringLiteral("Home")));
+        QCOMPARE(ActionNamed(f.Current(), QStringLiteral("Home"))->m_strPath, target);
+    }
 }
 
 void tst_TitleBarView::hostIsAskedForTheTargetOfAShellLink()
@@ -692,6 +697,8 @@ void tst_TitleBarView::realFolderNamedLikeALinkIsAFolder()
     QCOMPARE(f.Current()->ActionSize(), std::size_t(1));
     QCOMPARE(f.Current()->GetAction(0)->text(), QStringLiteral("Archive.lnk"));
     QCOMPARE(f.Current()->GetAction(0)->m_strPath, path);
+    // Left to the cleaning up, it would stay where such names are those of links.
+    QVERIFY(QDir().rmdir(path));
 }
 
 void tst_TitleBarView::danglingLinkIsLeftOut()
@@ -796,6 +803,7 @@ void tst_TitleBarView::emptyPathIsNotTheCurrentFolder()
 
 void tst_TitleBarView::tenThousandFoldersFitAMenu()
 {
+    KTFM_SKIP_ON_WINE("each name is looked for among all others, whose making takes minutes");
     Fixture f;
     constexpr int count = 10000;
     const QString place = f.folder.Folder(QStringLiteral("many"));
@@ -828,14 +836,15 @@ void tst_TitleBarView::opacityIsStoredAndPainted()
         button->render(&image, QPoint(), QRegion(), QWidget::RenderFlags());
         return image;
     };
-    const auto alphaAtCentreOf = [](const QImage& image) {
-        return image.pixelColor(image.width() / 4, image.height() / 2 + 6).alpha();
+    // Below the text, whose pixels are painted on those of the button, and above its frame.
+    const auto alphaBelowTheTextOf = [](const QImage& image) {
+        return image.pixelColor(image.width() / 4, image.height() - 5).alpha();
     };
     const QImage opaque = painted();
-    QVERIFY(alphaAtCentreOf(opaque) > 0);
+    QVERIFY(alphaBelowTheTextOf(opaque) > 0);
     QVERIFY(button->setProperty("Opacity", 128));
     QCOMPARE(button->Opacity(), 128);
-    QVERIFY(qAbs(alphaAtCentreOf(painted()) - alphaAtCentreOf(opaque) * 128 / 255) <= 2);
+    QVERIFY(qAbs(alphaBelowTheTextOf(painted()) - alphaBelowTheTextOf(opaque) * 128 / 255) <= 2);
     button->setOpacity(0);
     QImage nothing(button->size(), QImage::Format_ARGB32_Premultiplied);
     nothing.fill(Qt::transparent);

@@ -1,5 +1,6 @@
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 #include "widget/AliasTable.h"
 
 #include <QDir>
@@ -81,6 +82,7 @@ void tst_AliasTable::nameOfAFolderIsTheTableItself()
 
 void tst_AliasTable::nameOfALinkToAFileIsRead()
 {
+    KTFM_NEEDS_SYMBOLIC_LINKS();
     const TestFolder folder;
     const QString file = folder.File(QStringLiteral("table"), "a");
     const QString link = folder.Link(file, QStringLiteral("link.lnk"));

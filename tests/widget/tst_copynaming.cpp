@@ -2,6 +2,7 @@
 
 #include "tests/support/TestFolder.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QFileInfo>
 
@@ -106,6 +107,7 @@ void tst_CopyNaming::placeholdersInANameStay()
 
 void tst_CopyNaming::linkToAFolderIsNamedLikeAFolder()
 {
+    KTFM_NEEDS_SYMBOLIC_LINKS();
     const TestFolder folder;
     const QString target = folder.Folder(QStringLiteral("real"));
     const QFileInfo link(folder.Link(target, QStringLiteral("v1.2")));

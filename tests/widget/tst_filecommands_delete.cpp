@@ -1,6 +1,7 @@
 #include "tests/widget/CommandPane.h"
 
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <QFileSystemWatcher>
 
@@ -168,6 +169,7 @@ void tst_FileCommandsDelete::aliasFolderIsDeletedAndItsParentShown()
 
 void tst_FileCommandsDelete::aliasWithoutAParentIsDeleted()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     CommandPane pane(FM_MODE_ALIAS_TREE_AND_LIST);
     pane.m_folder.File(QStringLiteral("top/a"));
     pane.m_pPane->PopulateAliasTable(QStringLiteral("Top\t") + pane.m_folder.Path(QStringLiteral("top")) +
@@ -228,6 +230,7 @@ void tst_FileCommandsDelete::deletedFoldersAreNoLongerWatched()
 
 void tst_FileCommandsDelete::movedFolderLeavesTheAliasTree()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     CommandPane pane;
     pane.m_folder.Folder(QStringLiteral("out/docs/in"));
     pane.m_folder.Folder(QStringLiteral("out/rest"));

@@ -1,4 +1,5 @@
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 #include "tests/widget/AliasPane.h"
 
 #include <KTFileManager2QU/CKTFMListModel.h>
@@ -39,11 +40,14 @@ public:
         return shown && QTest::qWaitForWindowActive(&m_window);
     }
 
-    /** Double-clicks an item, so that its editor opens. @return whether it did */
+    /**
+     * Double-clicks an item, so that its editor opens, and waits until its folder is listed: while that
+     * lasts, some systems let nobody rename it. @return whether the editor is open
+     */
     bool Edit(const QStringList& labels)
     {
         DoubleClick(AliasTree(), Item(labels));
-        return Editor() != nullptr;
+        return Editor() && QTest::qWaitFor([this] { return Names().size() == EntryCount(CurrentFolder()); });
     }
 
     /** Types a name into the open editor and ends it with a key; returns when the editor has gone. */
@@ -53,6 +57,13 @@ public:
         QTest::keyClicks(Editor(), name);
         QTest::keyClick(Editor(), key);
         return QTest::qWaitFor([this] { return !Editor(); });
+    }
+
+    /** @return how many entries of a folder the list shows; none of no folder */
+    static int EntryCount(const QString& folder)
+    {
+        const QDir::Filters shown = QDir::Files | QDir::AllDirs | QDir::NoDotAndDotDot;
+        return folder.isEmpty() ? 0 : QDir(folder).entryList(shown).size();
     }
 
     QString ListedFolder() const { return m_pPane->GetListModel()->rootPath(); }
@@ -97,6 +108,7 @@ private Q_SLOTS:
     void editorOpenedByTheHostIsLikeAnyOther();
     void folderRemovedDuringTheEditIsGoneAfterIt();
     void renameCommandEditsTheCurrentItem();
+    void renameCommandEditsTheLabelWhicheverCellIsCurrent();
     void doubleClickMakesTheAliasTreeThePaneOfCommands();
     void paneMayDieWithAnOpenEditor();
 };
@@ -244,6 +256,7 @@ void tst_FileManagerAliasEditing::escapeKeepsAnOpenBranchOpen()
 
 void tst_FileManagerAliasEditing::losingTheFocusRenames()
 {
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
     EditedPane pane;
     QVERIFY(pane.Start());
     QVERIFY(pane.Edit(TopAnd(QStringLiteral("A"))));
@@ -314,6 +327,7 @@ void tst_FileManagerAliasEditing::refusedNameIsReportedAndKeepsTheItem()
 
 void tst_FileManagerAliasEditing::closedEditorShowsTheFolderInTheList()
 {
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
     EditedPane pane;
     QVERIFY(pane.Start());
     QVERIFY(pane.Edit(TopAnd(QStringLiteral("A"))));
@@ -376,6 +390,7 @@ void tst_FileManagerAliasEditing::topLevelItemKeepsItsRow()
 
 void tst_FileManagerAliasEditing::renamedTopLevelItemIsWatchedUnderItsNewName()
 {
+    KTFM_SKIP_ON_WINE("a folder that was watched and renamed tells of no more changes");
     EditedPane pane;
     QVERIFY(pane.Start());
     QVERIFY(pane.Edit(Top));
@@ -437,6 +452,7 @@ void tst_FileManagerAliasEditing::editorOpenedByTheHostIsLikeAnyOther()
 
 void tst_FileManagerAliasEditing::folderRemovedDuringTheEditIsGoneAfterIt()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     EditedPane pane;
     QVERIFY(pane.Start());
     QVERIFY(pane.Edit(TopAnd(QStringLiteral("A"))));
@@ -448,6 +464,7 @@ void tst_FileManagerAliasEditing::folderRemovedDuringTheEditIsGoneAfterIt()
 
 void tst_FileManagerAliasEditing::renameCommandEditsTheCurrentItem()
 {
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
     EditedPane pane;
     QVERIFY(pane.Start());
     PaneFixture::Click(pane.AliasTree(), pane.Item(TopAnd(QStringLiteral("A"))));
@@ -458,6 +475,25 @@ void tst_FileManagerAliasEditing::renameCommandEditsTheCurrentItem()
     QCOMPARE(pane.Labels(Top), QStringList({QStringLiteral("B"), QStringLiteral("Z")}));
     QTRY_COMPARE(pane.Watched(),
                  pane.Paths({QStringLiteral("Top"), QStringLiteral("Top/B"), QStringLiteral("Top/Z")}));
+}
+
+void tst_FileManagerAliasEditing::renameCommandEditsTheLabelWhicheverCellIsCurrent()
+{
+    KTFM_SKIP_ON_WINE("a folder that is being listed cannot be renamed");
+    EditedPane pane;
+    QVERIFY(pane.Start());
+    const QPersistentModelIndex item = pane.Item(TopAnd(QStringLiteral("A")));
+    pane.AliasTree()->expand(item);
+    const QList<QModelIndex> found =
+        pane.Model()->IndexWithFilePath(pane.m_folder.Path(QStringLiteral("Top/A")));
+    QVERIFY(pane.m_pPane->SetCurrentAliasTreeSelection(found.value(0)));
+    pane.m_pPane->SetLastMenuFrom(FM_PART_ALIAS_TREE);
+    QVERIFY(pane.m_pPane->DoCommand(FM_CMD_RENAME));
+    QVERIFY(!pane.AliasTree()->isExpanded(item));
+    QVERIFY(pane.Editor());
+    QCOMPARE(pane.Editor()->text(), QStringLiteral("A"));
+    QVERIFY(pane.Type(QStringLiteral("Z"), Qt::Key_Return));
+    QCOMPARE(pane.Labels(Top), QStringList({QStringLiteral("B"), QStringLiteral("Z")}));
 }
 
 void tst_FileManagerAliasEditing::doubleClickMakesTheAliasTreeThePaneOfCommands()

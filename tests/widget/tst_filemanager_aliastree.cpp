@@ -1,4 +1,5 @@
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 #include "tests/widget/AliasPane.h"
 
 #include <KTFileManager2QU/CKTFMListModel.h>
@@ -338,6 +339,7 @@ void tst_FileManagerAliasTree::scanOfAnOpenItemFillsTheNewItemsToo()
 
 void tst_FileManagerAliasTree::scanTakesAnyCellOfAnItem()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("gone"));
     QVERIFY(pane.LoadTop());
@@ -391,6 +393,7 @@ void tst_FileManagerAliasTree::scanOfAnIndexOfNoItemDoesNothing()
 
 void tst_FileManagerAliasTree::secondOfTwoVanishedNeighboursGoesAtTheNextScan()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     for (const char* name : {"a", "b", "c", "d"})
         pane.m_folder.Folder(QLatin1String(name));
@@ -408,6 +411,7 @@ void tst_FileManagerAliasTree::secondOfTwoVanishedNeighboursGoesAtTheNextScan()
 
 void tst_FileManagerAliasTree::everyOtherVanishedNeighbourIsRemoved()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     for (const char* name : {"a", "b", "c", "d", "e"})
         pane.m_folder.Folder(QLatin1String(name));

@@ -1,4 +1,5 @@
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 #include "tests/widget/AliasPane.h"
 
 #include <QDir>
@@ -273,6 +274,7 @@ void tst_FileManagerAliasWatching::newFolderInAClosedItemShowsThatItCanBeOpened(
 
 void tst_FileManagerAliasWatching::removedFolderDisappears()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("A"));
     pane.m_folder.Folder(QStringLiteral("B"));
@@ -299,6 +301,7 @@ void tst_FileManagerAliasWatching::removedBranchIsUnwatched()
 
 void tst_FileManagerAliasWatching::secondOfTwoRemovedNeighboursGoesAtTheNextChange()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("bin"));
     for (const char* name : {"Top/a", "Top/b", "Top/c"})
@@ -376,6 +379,7 @@ void tst_FileManagerAliasWatching::changeOfAnotherFolderScansNothing()
 
 void tst_FileManagerAliasWatching::vanishedTopFolderKeepsItsItems()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("Top/A"));
     QVERIFY(pane.LoadTop(QStringLiteral("Top")));
@@ -392,6 +396,7 @@ void tst_FileManagerAliasWatching::vanishedTopFolderKeepsItsItems()
 
 void tst_FileManagerAliasWatching::folderThatComesBackIsFollowedAgain()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("A"));
     QVERIFY(pane.LoadTop());
@@ -408,6 +413,7 @@ void tst_FileManagerAliasWatching::folderThatComesBackIsFollowedAgain()
 
 void tst_FileManagerAliasWatching::manyRemovedFoldersEndTheirWatches()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     const AliasPane pane;
     for (int i = 0; i < 200; ++i)
         pane.m_folder.Folder(QStringLiteral("Top/%1/sub").arg(i));
@@ -424,6 +430,7 @@ void tst_FileManagerAliasWatching::manyRemovedFoldersEndTheirWatches()
 
 void tst_FileManagerAliasWatching::changesDuringAnEditAreFollowed()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("A"));
     pane.Model()->SetRenamable(true);
@@ -442,6 +449,7 @@ void tst_FileManagerAliasWatching::changesDuringAnEditAreFollowed()
 
 void tst_FileManagerAliasWatching::deletedFolderIsUnwatchedAndDisappears()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     AliasPane pane;
     pane.m_folder.Folder(QStringLiteral("A/a"));
     pane.m_folder.Folder(QStringLiteral("B"));

@@ -1,5 +1,6 @@
 #include "tests/support/PaneFixture.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <KTFileManager2QU/CKTFMAliasTreeModel.h>
 #include <KTFileManager2QU/CKTFMDelegate.h>
@@ -247,6 +248,7 @@ void tst_FileManagerAppearance::borderIsDoubledToTheSpacing_data()
 
 void tst_FileManagerAppearance::borderIsDoubledToTheSpacing()
 {
+    KTFM_NEEDS_ICONS_OF_ANY_SIZE();
     QFETCH(QSize, border);
     PaneFixture f;
     if (border != QSize())
@@ -259,6 +261,7 @@ void tst_FileManagerAppearance::borderIsDoubledToTheSpacing()
 
 void tst_FileManagerAppearance::heightRatioWidensTheAreaThatStartsRenaming()
 {
+    KTFM_NEEDS_ICONS_OF_ANY_SIZE();
     PaneFixture f;
     f.m_folder.File(QStringLiteral("a"));
     f.m_pPane->SetIconSize(FM_ICON_HUGE);

@@ -1,5 +1,6 @@
 #include "tests/support/PaneFixture.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <KTFileManager2QU/CKTFMAliasTreeModel.h>
 #include <KTFileManager2QU/CKTFMDelegate.h>
@@ -467,6 +468,7 @@ void tst_FileManagerAssembly::extensionOfAnUnmappedFile()
 
 void tst_FileManagerAssembly::onlyTheGridIsRepaintedByUpdateWnd()
 {
+    KTFM_SKIP_ON_WINE("paint events go on arriving when the event loop has run dry");
     PaneFixture f;
     QVERIFY(f.ShowFolder(0));
     EventCounter paints(QEvent::Paint);

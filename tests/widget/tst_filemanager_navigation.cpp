@@ -1,5 +1,6 @@
 #include "tests/support/PaneFixture.h"
 #include "tests/support/TestMain.h"
+#include "tests/support/TestPlatform.h"
 
 #include <KTFileManager2QU/CKTFMAliasTreeModel.h>
 #include <KTFileManager2QU/CKTFMListModel.h>
@@ -67,7 +68,7 @@ public:
         m_folder.File(QStringLiteral("c.txt"));
         m_folder.File(QStringLiteral("sub/deep/d.txt"));
         m_folder.File(QStringLiteral("other/o.txt"));
-        m_folder.Link(m_folder.Path(QStringLiteral("a.txt")), QStringLiteral("link.txt"));
+        m_folder.Link(m_folder.Path(QStringLiteral("a.txt")), QStringLiteral("link.lnk"));
         m_pPane->SetSelectionMode(FM_SELECTION_EXTENDED);
     }
 
@@ -131,6 +132,8 @@ private Q_SLOTS:
     void globalPositionIsInsideWithItsEdges();
     void selectedFilesOfTheGrid();
     void selectedRowsOfTheDetailsCountOnce();
+    void selectedPathsAreThoseOfTheModel_data();
+    void selectedPathsAreThoseOfTheModel();
     void selectedFilesOfManyRows();
     void selectedRowsWithGaps();
     void selectedCellsOfOneRowCountOnce();
@@ -574,6 +577,7 @@ void tst_FileManagerNavigation::doubleClickOnAFolderSelectsItsFirstAlias()
 
 void tst_FileManagerNavigation::doubleClickOnALinkOpensItsFolder()
 {
+    KTFM_NEEDS_SYMBOLIC_LINKS();
     MixedFolder f;
     f.m_folder.Link(f.m_folder.Path(QStringLiteral("other")), QStringLiteral("linked"));
     QVERIFY(f.ShowFolder(MixedFolder::Count + 1));
@@ -849,6 +853,29 @@ void tst_FileManagerNavigation::selectedRowsOfTheDetailsCountOnce()
     QCOMPARE(Unique(all).size(), MixedFolder::Count);
 }
 
+void tst_FileManagerNavigation::selectedPathsAreThoseOfTheModel_data()
+{
+    QTest::addColumn<EKTFMViewMode>("mode");
+    QTest::newRow("items of the grid") << FM_VIEW_ICON;
+    QTest::newRow("rows of the details") << FM_VIEW_DETAIL;
+}
+
+void tst_FileManagerNavigation::selectedPathsAreThoseOfTheModel()
+{
+    QFETCH(EKTFMViewMode, mode);
+    MixedFolder f;
+    f.m_folder.Link(f.m_folder.Path(QStringLiteral("sub")), QStringLiteral("linked folder"));
+    QVERIFY(f.ShowFolder(MixedFolder::Count + 1));
+    f.m_pPane->SetViewMode(mode);
+    f.m_pPane->DoCommand(FM_CMD_SELECT_ALL);
+    const CKTFMListModel* model = f.m_pPane->GetListModel();
+    const QModelIndex folder = model->index(f.m_folder.Path());
+    QStringList expected;
+    for (int row = 0; row < model->rowCount(folder); ++row)
+        expected.append(model->filePath(model->index(row, 0, folder)));
+    QCOMPARE(Sorted(f.m_pPane->GetCurSelectedFileList(true)), Sorted(expected));
+}
+
 void tst_FileManagerNavigation::selectedFilesOfManyRows()
 {
     constexpr int Files = 1000;
@@ -924,14 +951,14 @@ void tst_FileManagerNavigation::allFilesBelowTheListedFolder()
 {
     MixedFolder f;
     f.m_folder.File(QStringLiteral("sub/p.png"));
-    f.m_folder.Link(f.m_folder.Path(), QStringLiteral("sub/circle"));
+    f.m_folder.Link(f.m_folder.Path(), QStringLiteral("sub/circle.lnk"));
     QVERIFY(f.ShowFolder(MixedFolder::Count));
     QCOMPARE(Sorted(f.m_pPane->GetAllFilePathFromListView({QStringLiteral("*.png"), QStringLiteral("d*")})),
              Sorted({f.m_folder.Path(QStringLiteral("sub/p.png")),
                      f.m_folder.Path(QStringLiteral("sub/deep/d.txt"))}));
     const QStringList all = f.m_pPane->GetAllFilePathFromListView(QStringList());
     QCOMPARE(all.size(), 7);
-    QVERIFY(all.contains(f.m_folder.Path(QStringLiteral("link.txt"))));
+    QVERIFY(all.contains(f.m_folder.Path(QStringLiteral("link.lnk"))));
 }
 
 void tst_FileManagerNavigation::allFilesBeforeAnyFolder()
@@ -957,6 +984,7 @@ void tst_FileManagerNavigation::removedFolderLeavesAnEmptyList_data()
 
 void tst_FileManagerNavigation::removedFolderLeavesAnEmptyList()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     QFETCH(QString, shown);
     QFETCH(QString, removed);
     MixedFolder f;
@@ -983,6 +1011,7 @@ void tst_FileManagerNavigation::removedFolderLeavesAnEmptyList()
 
 void tst_FileManagerNavigation::folderAfterARemovedOneIsShown()
 {
+    KTFM_SKIP_ON_WINE("a folder that is removed stays until nobody watches it");
     MixedFolder f;
     QVERIFY(f.Show());
     f.Open(f.m_folder.Path(QStringLiteral("sub/deep")));

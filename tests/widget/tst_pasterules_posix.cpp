@@ -87,8 +87,8 @@ void tst_PasteRules::itemsWhoseTargetsStayAreLeftOut()
     folder.File(QStringLiteral("to/a"), "old");
     folder.File(QStringLiteral("to/gone"), "old");
     QFileSystemModel model;
-    const QStringList left =
-        PasteRules::RemoveReplaced(model, sources, sources.mid(0, 2), folder.Path(QStringLiteral("to")));
+    const QStringList left = PasteRules::RemoveReplaced(
+        model, sources, sources.mid(0, 2), folder.Path(QStringLiteral("to")), TreeCopy::Kind::Copy);
     QCOMPARE(left, QStringList({sources.at(0), sources.at(2)}));
     QVERIFY(!QFileInfo::exists(folder.Path(QStringLiteral("to/a"))));
     QCOMPARE(folder.Read(QStringLiteral("to/gone")), QByteArray("old"));
@@ -105,8 +105,8 @@ void tst_PasteRules::unlistedTargetNeverEmptiesTheCurrentFolder()
     const QString before = QDir::currentPath();
     QDir::setCurrent(current.Path());
     // The target has vanished since the user was asked: the model has no index for it.
-    const QStringList left =
-        PasteRules::RemoveReplaced(model, {source}, {source}, folder.Path(QStringLiteral("to")));
+    const QStringList left = PasteRules::RemoveReplaced(
+        model, {source}, {source}, folder.Path(QStringLiteral("to")), TreeCopy::Kind::Copy);
     QDir::setCurrent(before);
     QCOMPARE(left, QStringList(source));
     QVERIFY(QFileInfo::exists(current.Path(QStringLiteral("bystander"))));

@@ -51,6 +51,7 @@ private Q_SLOTS:
     void linksInsideAreRemovedAsThemselves();
     void linkItselfIsRemovedAsItself();
     void pipesAndLinksToNothingAreRemoved();
+    void folderThatBecomesALinkMeanwhileIsNotGoneThrough();
     void deepTreeIsRemoved();
     void rootIsNeverTouched();
     void firstFailureLeavesTheRest();
@@ -129,6 +130,23 @@ void tst_TreeRemoval::pipesAndLinksToNothingAreRemoved()
     folder.Link(folder.Path(QStringLiteral("gone")), QStringLiteral("top/link"));
     QCOMPARE(mkfifo(qPrintable(folder.Path(QStringLiteral("top/pipe"))), 0600), 0);
     QVERIFY(Remove(folder.Path(QStringLiteral("top"))));
+    QVERIFY(!QFileInfo::exists(folder.Path(QStringLiteral("top"))));
+}
+
+void tst_TreeRemoval::folderThatBecomesALinkMeanwhileIsNotGoneThrough()
+{
+    const TestFolder folder;
+    folder.File(QStringLiteral("outside/kept"), "kept");
+    folder.Folder(QStringLiteral("top/a"));
+    const QString swapped = folder.Folder(QStringLiteral("top/b"));
+    // The removal has listed both by now and goes into the second next.
+    const auto swap = [&](const QString& removed) {
+        if (removed == folder.Path(QStringLiteral("top/a")) && QDir().rmdir(swapped))
+            folder.Link(folder.Path(QStringLiteral("outside")), QStringLiteral("top/b"));
+    };
+    const bool done = TreeRemoval::Remove(folder.Path(QStringLiteral("top")), swap);
+    QCOMPARE(folder.Read(QStringLiteral("outside/kept")), QByteArray("kept"));
+    QVERIFY(done);
     QVERIFY(!QFileInfo::exists(folder.Path(QStringLiteral("top"))));
 }
 
