@@ -9,4 +9,11 @@
  */
 QString AliasSample(const QString& folder, const QString& section);
 
+/**
+ * Reads a table from a file. A folder that is given relative to the file's own becomes absolute, so that a
+ * table may travel with its folders.
+ * @return the table's text; a null one when the file cannot be read
+ */
+QString AliasTableFrom(const QString& file);
+
 #endif

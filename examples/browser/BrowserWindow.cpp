@@ -1,24 +1,38 @@
 #include "BrowserWindow.h"
 
+#include "Actions.h"
+#include "AddressPath.h"
 #include "AliasSample.h"
+#include "CategoryIcons.h"
+#include "ColorScheme.h"
 #include "CommandActions.h"
-#include "FolderTrail.h"
+#include "EmptyHint.h"
+#include "FocusKeeper.h"
+#include "FolderNavigator.h"
+#include "ListKeys.h"
+#include "ListSummary.h"
+#include "LocationBar.h"
+#include "NavigationActions.h"
 #include "Options.h"
+#include "StatusLine.h"
+#include "ThumbnailQueue.h"
 #include "Thumbnails.h"
+#include "ViewActions.h"
 
 #include <KTFileManager2QU/KTFileManager2QU.h>
 
 #include <QAction>
-#include <QActionGroup>
 #include <QDesktopServices>
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QListView>
+#include <QScreen>
 #include <QStatusBar>
-#include <QStyle>
-#include <QToolBar>
+#include <QTreeView>
 #include <QUrl>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
@@ -36,39 +50,52 @@ constexpr int AllInteractions = 1 | 2 | 4;
 constexpr int HoverAlpha = 50;
 constexpr int SelectedAlpha = 100;
 
-/** What a grid cell is wider than its image, in pixels: room for names. */
-constexpr int GridMarginWidth = 60;
-
-/** What a grid cell has above and between its image and name, in pixels. */
-constexpr int NameDistance = 16;
-
 /** The corners of a thumbnail's highlight, in pixels. */
 constexpr int HighlightRadius = 4;
+
+/** How long a message stands in the status bar, in ms. */
+constexpr int MessageTime = 8000;
 
 } // namespace
 
 BrowserWindow::BrowserWindow(const Options& options)
-    : m_pPane(new CKTFileManager(this, QRect(QPoint(0, 0), WindowSize), options.mode, TreePercent, true))
+    : m_pPane(new CKTFileManager(this, QRect(QPoint(0, 0), WindowSize), options.mode, TreePercent, true)),
+      m_views(*m_pPane),
+      m_pQueue(
+          std::make_unique<ThumbnailQueue>([this](const QModelIndex& item) { return m_views.Shows(item); })),
+      m_pThumbnails(std::make_unique<Thumbnails>(*m_pPane->GetListModel(), *m_pQueue)),
+      m_pCategoryIcons(std::make_unique<CategoryIcons>()),
+      m_pCommands(new CommandActions(*m_pPane, *this)),
+      m_pFolders(new FolderNavigator(*m_pPane, this)),
+      m_pNavigation(new NavigationActions(this)),
+      m_pViewActions(new ViewActions(*m_pPane, this)),
+      m_pLocation(new LocationBar(*m_pPane->GetTreeModel(), this)),
+      m_pStatus(new StatusLine(statusBar())),
+      m_pSummary(new ListSummary(*m_pPane, this)),
+      m_pEmptyHint(new EmptyHint({m_views.grid, m_views.details}, this)),
+      m_pOpen(Actions::Create(this, tr("&Open"), "document-open", {})),
+      m_pDark(Actions::Create(this, tr("D&ark"), "weather-clear-night", {}))
 {
-    GivePaneToHost();
-    m_pCommands = std::make_unique<CommandActions>(*m_pPane, *this);
-    CreateTrail();
+    GivePaneToHost(options);
+    NamePanes();
+    CreateContent();
+    CreateMenus();
     CreateToolBar();
+    ConnectStatus();
+    ConnectLocation();
     ColourThumbnails();
-    m_pPane->SetFlagStatus(FM_PART_TREE | FM_PART_LIST | FM_PART_ALIAS_TREE, AllInteractions, true);
-    MapNames(options.names, options.tips);
-    m_pPane->PopulateAliasTable(options.aliasFile.isEmpty()
-                                    ? AliasSample(QDir(options.folder).absolutePath(), options.names.section)
-                                    : options.aliasFile);
-    connect(m_pPane, &CKTFileManager::OnError, this, [this](int, int, int error) { ShowError(error); });
-    statusBar();
-    resize(WindowSize);
+    new ListKeys(*m_pPane, this);
+    m_pViewActions->Show(options.view.value_or(FM_VIEW_ICON), options.iconSize.value_or(FM_ICON_MEDIUM));
+    resize(options.size.isValid() ? options.size : WindowSize);
+    restoreGeometry(options.geometry);
 }
 
 BrowserWindow::~BrowserWindow()
 {
-    // Neither the bar nor the pane may outlive the callbacks that they were given.
-    delete m_pTrailBar;
+    // What follows the focus must not do so into a pane that is going, and neither the bar nor the pane may
+    // outlive the callbacks that they were given.
+    delete m_pCommands;
+    delete m_pLocation;
     delete m_pPane;
 }
 
@@ -77,17 +104,42 @@ CKTFileManager* BrowserWindow::Pane() const
     return m_pPane;
 }
 
-void BrowserWindow::GivePaneToHost()
+const ViewActions& BrowserWindow::Views() const
+{
+    return *m_pViewActions;
+}
+
+bool BrowserWindow::IsBusy() const
+{
+    return !m_pQueue->IsEmpty();
+}
+
+void BrowserWindow::GivePaneToHost(const Options& options)
 {
     // The pane leaves its models to the host; here nothing uses them without it.
     m_pPane->GetListModel()->setParent(this);
     m_pPane->GetTreeModel()->setParent(this);
     m_pPane->GetAliasTreeModel()->setParent(this);
-    m_pThumbnails = std::make_unique<Thumbnails>(*m_pPane->GetListModel());
-    connect(m_pThumbnails.get(), &Thumbnails::Ready, this,
-            [this] { m_pPane->UpdateWnd(FM_UPDATE_LIST_VIEW); });
-    m_pPane->SetCallBackInterface(this, nullptr, m_pThumbnails.get(), nullptr);
+    m_pPane->SetCallBackInterface(this, nullptr, m_pThumbnails.get(), m_pCategoryIcons.get());
     m_pPane->SetParentForMsgBox(this);
+    m_pPane->SetSelectionMode(FM_SELECTION_EXTENDED);
+    m_pPane->SetFlagStatus(FM_PART_TREE | FM_PART_LIST | FM_PART_ALIAS_TREE, AllInteractions, true);
+    MapNames(options.names, options.tips);
+    m_pPane->PopulateAliasTable(options.aliasFile.isEmpty()
+                                    ? AliasSample(options.folder, options.names.section)
+                                    : AliasTableFrom(options.aliasFile));
+    connect(m_pPane, &CKTFileManager::OnError, this, [this](int, int, int error) { ShowRenameError(error); });
+}
+
+void BrowserWindow::NamePanes()
+{
+    // What a screen reader says when a pane gets the focus.
+    m_views.grid->setAccessibleName(tr("Files"));
+    m_views.details->setAccessibleName(tr("Files"));
+    m_views.tree->setAccessibleName(tr("Folders"));
+    m_views.aliasTree->setAccessibleName(tr("Categories"));
+    // Without it the top-most folders could be opened by a double click alone.
+    m_views.tree->setRootIsDecorated(true);
 }
 
 void BrowserWindow::MapNames(const IniSection& names, const IniSection& tips)
@@ -100,95 +152,169 @@ void BrowserWindow::MapNames(const IniSection& names, const IniSection& tips)
         m_pPane->GetListModel()->SetFileTipsMappingFile(tips.file, tips.section);
 }
 
-void BrowserWindow::CreateTrail()
+void BrowserWindow::CreateContent()
 {
-    m_pTrail = std::make_unique<FolderTrail>(*m_pPane->GetTreeModel(),
-                                             [this](const QString& path) { OpenFolder(path); });
     auto* content = new QWidget(this);
-    m_pTrailBar = new CTitleBarView(content, m_pTrail.get());
-    m_pTrailBar->SetRootIcon(style()->standardIcon(QStyle::SP_DriveHDIcon));
-    m_pTrailBar->SetRootItemUseIcon(true);
     auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_pTrailBar);
+    layout->addWidget(m_pLocation);
     layout->addWidget(m_pPane, 1);
     setCentralWidget(content);
 }
 
+void BrowserWindow::ConnectStatus()
+{
+    connect(m_pSummary, &ListSummary::Counted, this, [this](int items) {
+        m_nItems = items;
+        m_pStatus->SetCount(items);
+        SayWhyEmpty();
+    });
+    connect(m_pSummary, &ListSummary::SelectionCounted, m_pStatus, &StatusLine::SetSelection);
+    connect(m_pQueue.get(), &ThumbnailQueue::Progressed, m_pStatus, &StatusLine::SetProgress);
+    connect(m_pThumbnails.get(), &Thumbnails::Ready, this, [this] {
+        m_pPane->UpdateWnd(FM_UPDATE_LIST_VIEW);
+        m_views.details->viewport()->update();
+    });
+    connect(m_pCommands, &CommandActions::Ended, this, [this](EKTFMCommand command, bool done) {
+        m_pStatus->SetFolder(m_pPane->GetListModel()->rootPath());
+        if (command == FM_CMD_NEW_FOLDER && !done)
+            Say(tr("A folder cannot be made here."));
+    });
+    m_pDark->setCheckable(true);
+    m_pDark->setChecked(ColorScheme::IsDark());
+    connect(m_pDark, &QAction::toggled, this, [](bool dark) { ColorScheme::SetDark(dark); });
+}
+
+void BrowserWindow::ConnectLocation()
+{
+    connect(m_pNavigation, &NavigationActions::FolderWanted, this, &BrowserWindow::OpenFolder);
+    connect(m_pNavigation->m_pReload, &QAction::triggered, this, &BrowserWindow::Reload);
+    connect(m_pNavigation->m_pAddress, &QAction::triggered, m_pLocation, &LocationBar::AskForAddress);
+    connect(m_pOpen, &QAction::triggered, this, &BrowserWindow::OpenCurrentItem);
+    connect(m_pLocation, &LocationBar::FolderChosen, this, [this](const QString& path) { OpenFolder(path); });
+    connect(m_pLocation, &LocationBar::AddressEntered, this, &BrowserWindow::OpenAddress);
+    connect(m_pLocation, &LocationBar::AddressGivenUp, this, [this] { m_views.ShownList()->setFocus(); });
+    const auto* selection = m_views.grid->selectionModel();
+    const auto offerOpen = [this, selection] { m_pOpen->setEnabled(selection->hasSelection()); };
+    connect(selection, &QItemSelectionModel::selectionChanged, this, offerOpen);
+    offerOpen();
+    connect(m_pViewActions, &ViewActions::Changed, this, &BrowserWindow::FitThumbnails);
+    connect(m_pPane->GetListModel(), &QFileSystemModel::directoryLoaded, this, &BrowserWindow::FolderListed,
+            Qt::QueuedConnection);
+}
+
 void BrowserWindow::ColourThumbnails()
 {
-    QColor hover = palette().color(QPalette::Highlight);
+    const QColor highlight = palette().color(QPalette::Highlight);
+    QColor hover = highlight;
     hover.setAlpha(HoverAlpha);
-    QColor selected = hover;
+    QColor selected = highlight;
     selected.setAlpha(SelectedAlpha);
-    const QColor frame = palette().color(QPalette::Highlight);
     m_pPane->SetItemDisplayInfo(ITEM_STATUS_HOVER, hover, hover, Qt::transparent, HighlightRadius);
-    m_pPane->SetItemDisplayInfo(ITEM_STATUS_SELECTED, selected, selected, frame, HighlightRadius);
+    m_pPane->SetItemDisplayInfo(ITEM_STATUS_SELECTED, selected, selected, highlight, HighlightRadius);
+    m_pPane->GetListViewDelegate()->SetNameColor(palette().color(QPalette::Text));
+}
+
+void BrowserWindow::FitThumbnails()
+{
+    const QSize grid = m_pPane->GetListIconSize();
+    const QSize details = m_pPane->GetDetailIconSize();
+    const QSize shown = m_pViewActions->Mode() == FM_VIEW_DETAIL ? details : grid;
+    m_pThumbnails->SetSide(qRound(qMax(shown.width(), shown.height()) * devicePixelRatioF()));
 }
 
 void BrowserWindow::changeEvent(QEvent* event)
 {
-    if (event->type() == QEvent::PaletteChange && m_pPane)
+    if (event->type() == QEvent::PaletteChange)
         ColourThumbnails();
     QMainWindow::changeEvent(event);
 }
 
-void BrowserWindow::CreateToolBar()
+void BrowserWindow::showEvent(QShowEvent* event)
 {
-    QToolBar* toolBar = addToolBar(tr("Commands"));
-    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    QAction* up = toolBar->addAction(style()->standardIcon(QStyle::SP_FileDialogToParent), tr("Up"), this,
-                                     &BrowserWindow::OpenParentFolder);
-    up->setShortcut(QKeySequence(QStringLiteral("Alt+Up")));
-    toolBar->addSeparator();
-    AddViewActions(*toolBar);
-    toolBar->addSeparator();
-    toolBar->addActions(m_pCommands->All());
+    QMainWindow::showEvent(event);
+    connect(windowHandle(), &QWindow::screenChanged, this, &BrowserWindow::FitThumbnails,
+            Qt::UniqueConnection);
+    FitThumbnails();
 }
 
-void BrowserWindow::AddViewActions(QToolBar& toolBar)
+void BrowserWindow::OpenFolder(const QString& path, const QString& selected)
 {
-    auto* views = new QActionGroup(this);
-    toolBar.addAction(AddViewAction(views, tr("Grid"), FM_VIEW_ICON));
-    toolBar.addAction(AddViewAction(views, tr("Large grid"), FM_VIEW_LARGE_ICON));
-    toolBar.addAction(AddViewAction(views, tr("Details"), FM_VIEW_DETAIL));
-    views->actions().constFirst()->trigger();
+    const FocusKeeper focus;
+    if (!QFileInfo(path).isDir()) {
+        Say(tr("There is no folder “%1”.").arg(QDir::toNativeSeparators(path)));
+        return;
+    }
+    m_selected = selected;
+    if (!m_pFolders->Show(path)) {
+        Say(tr("“%1” is hidden, and hidden folders are not shown.").arg(QDir::toNativeSeparators(path)));
+        return;
+    }
+    if (m_bListed)
+        SelectWanted();
 }
 
-QAction* BrowserWindow::AddViewAction(QActionGroup* group, const QString& text, EKTFMViewMode mode)
+void BrowserWindow::OpenAddress(const QString& text)
 {
-    QAction* action = group->addAction(text);
-    action->setCheckable(true);
-    action->setIcon(style()->standardIcon(mode == FM_VIEW_DETAIL ? QStyle::SP_FileDialogDetailedView
-                                                                 : QStyle::SP_FileDialogListView));
-    connect(action, &QAction::triggered, this, [this, mode] { ShowView(mode); });
-    return action;
+    const QString path = AddressPath(text, m_pPane->GetListModel()->rootPath());
+    const QFileInfo info(path);
+    if (path.isEmpty() || !info.exists()) {
+        Say(tr("There is no file or folder “%1”.").arg(text.trimmed()));
+        return;
+    }
+    if (info.isDir())
+        OpenFolder(path);
+    else
+        OpenFolder(info.absolutePath(), path);
+    m_pLocation->ShowFolder(m_pPane->GetListModel()->rootPath());
+    m_views.ShownList()->setFocus();
 }
 
-void BrowserWindow::ShowView(EKTFMViewMode mode)
+void BrowserWindow::Reload()
 {
-    m_pPane->SetViewMode(mode);
-    // The pane goes back to its own margin with each switch; this one has room for two lines of the font.
-    m_pPane->SetGridMargin(GridMarginWidth, NameDistance + 2 * fontMetrics().lineSpacing());
-    m_pPane->SetItemBorder(GridMarginWidth / 2, GridMarginWidth / 2);
-    m_pPane->CalculateItemPosition();
+    const QString folder = m_pPane->GetListModel()->rootPath();
+    m_pFolders->Reload();
+    m_pLocation->ShowFolder(folder);
+    m_pStatus->SetFolder(folder);
 }
 
-void BrowserWindow::OpenFolder(const QString& path)
+void BrowserWindow::OpenCurrentItem()
 {
-    const QString folder = QDir::cleanPath(QDir(path).absolutePath());
-    m_pPane->SetDirectory(folder);
-    // The first folder that a pane is given fills the tree alone; given again, it fills the list.
-    if (m_pPane->GetListModel()->rootPath() != folder)
-        m_pPane->SetDirectory(folder);
+    const QModelIndex current = m_views.grid->selectionModel()->currentIndex();
+    if (current.isValid())
+        m_pPane->OnListDblClicked(current);
 }
 
-void BrowserWindow::OpenParentFolder()
+void BrowserWindow::SelectWanted()
 {
-    QDir folder(m_pPane->GetListModel()->rootPath());
-    if (folder.cdUp())
-        OpenFolder(folder.path());
+    if (!m_selected.isEmpty())
+        m_pPane->SetCurrentSelection(m_selected, false, false);
+    m_selected.clear();
+}
+
+void BrowserWindow::FolderListed(const QString& path)
+{
+    if (path != m_pPane->GetListModel()->rootPath())
+        return;
+    m_bListed = true;
+    SelectWanted();
+    m_pSummary->Update();
+}
+
+void BrowserWindow::SayWhyEmpty()
+{
+    QString text;
+    if (m_bListed && m_nItems == 0) {
+        const bool readable = QFileInfo(m_pPane->GetListModel()->rootPath()).isReadable();
+        text = readable ? tr("This folder is empty.") : tr("This folder cannot be read.");
+    }
+    m_pEmptyHint->Show(text);
+}
+
+void BrowserWindow::Say(const QString& text)
+{
+    statusBar()->showMessage(text, MessageTime);
 }
 
 void BrowserWindow::OnLButtonDblClickListItem(QString absolutePath, bool isFolder)
@@ -199,21 +325,18 @@ void BrowserWindow::OnLButtonDblClickListItem(QString absolutePath, bool isFolde
 
 void BrowserWindow::OnListViewRootPathChanged(const QString& newPath)
 {
-    m_pTrailBar->UpdateCrumBar(m_pPane->GetTreeModel()->index(newPath), false);
+    if (m_pFolders->IsPassing())
+        return;
+    m_bListed = false;
+    statusBar()->clearMessage();
+    m_pLocation->ShowFolder(newPath);
+    m_pNavigation->FolderChanged(newPath);
+    m_pStatus->SetFolder(newPath);
+    m_pSummary->Update();
     setWindowTitle(QDir::toNativeSeparators(newPath));
-    statusBar()->showMessage(QDir::toNativeSeparators(newPath));
 }
 
-void BrowserWindow::OnShowPopupMenu(EKTFMMode pane, bool onItem)
+void BrowserWindow::ShowRenameError(int error)
 {
-    Q_UNUSED(pane)
-    m_pCommands->Fill(*m_pPane->GetContextMenu(), onItem);
-}
-
-void BrowserWindow::ShowError(int error)
-{
-    constexpr int displayTime = 8000;
-    statusBar()->showMessage(error == 0 ? tr("Something of that name is already there.")
-                                        : tr("That name cannot be given."),
-                             displayTime);
+    Say(error == 0 ? tr("Something of that name is already there.") : tr("That name cannot be given."));
 }

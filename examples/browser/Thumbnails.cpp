@@ -1,88 +1,50 @@
 #include "Thumbnails.h"
 
+#include "Picture.h"
+#include "ThumbnailQueue.h"
+
 #include <KTFileManager2QU/CKTFMListModel.h>
 
 #include <QFileInfo>
-#include <QImageReader>
-#include <QPainter>
-#include <QRunnable>
 
 namespace {
 
-/** The longest side of a thumbnail, in pixels: the largest icons on a screen of twice the density. */
-constexpr int LongestSide = 256;
-
-/** How many thumbnails are kept. */
-constexpr int KeptThumbnails = 2000;
-
-bool IsPictureName(const QString& suffix)
-{
-    static const QList<QByteArray> formats = QImageReader::supportedImageFormats();
-    return formats.contains(suffix.toLower().toLatin1());
-}
-
-/** Puts a picture in the middle of a square, so that all thumbnails stand in line. */
-QImage Squared(const QImage& picture)
-{
-    if (picture.isNull())
-        return picture;
-    const int side = qMax(picture.width(), picture.height());
-    QImage square(side, side, QImage::Format_ARGB32_Premultiplied);
-    square.fill(Qt::transparent);
-    QPainter painter(&square);
-    painter.drawImage((side - picture.width()) / 2, (side - picture.height()) / 2, picture);
-    return square;
-}
-
-QImage Decoded(const QString& path)
-{
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > LongestSide || size.height() > LongestSide)
-        reader.setScaledSize(size.scaled(LongestSide, LongestSide, Qt::KeepAspectRatio));
-    return Squared(reader.read());
-}
+/** What the thumbnails kept may hold together, in KiB: some two thousand of 128 x 128 pixels. */
+constexpr int KeptKiB = 128 * 1024;
 
 } // namespace
 
-Thumbnails::Thumbnails(const CKTFMListModel& model) : m_model(model), m_pictures(KeptThumbnails) {}
-
-Thumbnails::~Thumbnails()
+Thumbnails::Thumbnails(const CKTFMListModel& model, ThumbnailQueue& queue)
+    : m_model(model),
+      m_queue(queue),
+      m_kept(KeptKiB)
 {
-    m_pool.clear();
-    m_pool.waitForDone();
+    connect(&m_queue, &ThumbnailQueue::Made, this, &Thumbnails::Store);
+}
+
+void Thumbnails::SetSide(int pixels)
+{
+    m_nSide = pixels;
 }
 
 QImage Thumbnails::HandleListviewDecorationRole(const QModelIndex& index)
 {
-    const QFileInfo info = m_model.fileInfo(index);
-    if (!IsPictureName(info.suffix()))
+    // The model asks for every column; in the table of details the name alone has a picture.
+    if (index.column() != 0)
         return QImage();
-    const QString path = info.absoluteFilePath();
-    const QDateTime modified = info.lastModified();
-    const Picture* known = m_pictures.object(path);
-    if (!known || known->modified != modified)
-        Request(path, modified);
-    return known ? known->thumbnail : QImage();
+    const QString path = m_model.filePath(index);
+    if (m_model.isDir(index) || !Picture::IsSuffix(QFileInfo(path).suffix()))
+        return QImage();
+    const QDateTime modified = m_model.lastModified(index);
+    const Kept* kept = m_kept.object(path);
+    if (!kept || kept->modified != modified || kept->side < m_nSide)
+        m_queue.Add(index, {path, modified, m_nSide});
+    return kept ? kept->image : QImage();
 }
 
-void Thumbnails::Request(const QString& path, const QDateTime& modified)
+void Thumbnails::Store(const ThumbnailSource& source, const QImage& image)
 {
-    if (m_requested.contains(path))
-        return;
-    m_requested.insert(path);
-    m_pool.start(QRunnable::create([this, path, modified] {
-                     const QImage thumbnail = Decoded(path);
-                     QMetaObject::invokeMethod(
-                         this, [=] { Store(path, modified, thumbnail); }, Qt::QueuedConnection);
-                 }),
-                 ++m_nLatestPriority);
-}
-
-void Thumbnails::Store(const QString& path, const QDateTime& modified, const QImage& thumbnail)
-{
-    m_requested.remove(path);
-    m_pictures.insert(path, new Picture{modified, thumbnail});
+    const int kibibytes = 1 + static_cast<int>(image.sizeInBytes() / 1024);
+    m_kept.insert(source.path, new Kept{source.modified, source.side, image}, kibibytes);
     Q_EMIT Ready();
 }

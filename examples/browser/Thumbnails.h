@@ -5,51 +5,50 @@
 
 #include <QCache>
 #include <QDateTime>
+#include <QImage>
 #include <QObject>
-#include <QSet>
-#include <QThreadPool>
 
 class CKTFMListModel;
+class ThumbnailQueue;
+struct ThumbnailSource;
 
 /**
  * The pictures of a file list as thumbnails.
  *
- * A picture is decoded on a thread pool, scaled while it is read, when its item is first painted; until then
- * the item keeps its plain icon. The latest request comes first, so that what the user looks at does not wait
- * for what was scrolled past. Thumbnails are kept by path and time, the ones used last.
+ * An item keeps its plain icon until its thumbnail is made. Thumbnails are kept by path, time and size, the
+ * ones used last; while a larger or newer one is made, the one that is there is shown.
  */
 class Thumbnails : public QObject, public CKTFMListModelInterface
 {
     Q_OBJECT
 
 public:
-    /** @param model whose indexes are asked about; borrowed */
-    explicit Thumbnails(const CKTFMListModel& model);
+    /** @param model whose indexes are asked about. @param queue makes the thumbnails. Both are borrowed. */
+    Thumbnails(const CKTFMListModel& model, ThumbnailQueue& queue);
 
-    /** Waits for the decoding that has begun. */
-    ~Thumbnails() override;
+    /** Sets the longest side that is shown, in pixels of the screen. */
+    void SetSide(int pixels);
 
     QImage HandleListviewDecorationRole(const QModelIndex& index) override;
 
 Q_SIGNALS:
-    /** A thumbnail is ready: the views should be painted again. */
+    /** A thumbnail is there: the views should be painted again. */
     void Ready();
 
 private:
-    struct Picture
+    struct Kept
     {
         QDateTime modified;
-        QImage thumbnail; ///< null for a file that is no picture
+        int side;
+        QImage image; ///< null for a file that is no picture
     };
 
-    void Request(const QString& path, const QDateTime& modified);
-    void Store(const QString& path, const QDateTime& modified, const QImage& thumbnail);
+    void Store(const ThumbnailSource& source, const QImage& image);
 
     const CKTFMListModel& m_model;
-    QThreadPool m_pool;
-    QSet<QString> m_requested;
-    QCache<QString, Picture> m_pictures;
-    int m_nLatestPriority = 0;
+    ThumbnailQueue& m_queue;
+    QCache<QString, Kept> m_kept;
+    int m_nSide = 0;
 };
 
 #endif
