@@ -5,9 +5,27 @@
 
 #include <QDrag>
 
+#include <numeric>
+
+namespace {
+
+/** The rows whose places in the grid are looked up one by one; few grids show as many at a time. */
+constexpr int MostRowsLookedUp = 1000;
+
+} // namespace
+
 CKTListView::CKTListView(QWidget* parent, CKTFileManager* owner) : QListView(parent), m_pOwner(owner) {}
 
 CKTListView::~CKTListView() = default;
+
+QRegion CKTListView::visualRegionForSelection(const QItemSelection& selection) const
+{
+    const int rows =
+        std::accumulate(selection.cbegin(), selection.cend(), 0,
+                        [](int sum, const QItemSelectionRange& range) { return sum + range.height(); });
+    // To paint what is in sight costs less than to find out which of so many are.
+    return rows > MostRowsLookedUp ? viewport()->rect() : QListView::visualRegionForSelection(selection);
+}
 
 void CKTListView::startDrag(Qt::DropActions supportedActions)
 {

@@ -19,6 +19,9 @@ public:
     ~CKTListView() override;
 
 protected:
+    /** What is to be painted again when these items were or are selected. */
+    QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+
     /** Drags the selected items; the drop target may copy them and nothing else. */
     void startDrag(Qt::DropActions supportedActions) override;
 

@@ -11,6 +11,15 @@ CKTTreeView::CKTTreeView(QWidget* parent, CKTFileManager* owner) : QTreeView(par
 
 CKTTreeView::~CKTTreeView() = default;
 
+void CKTTreeView::selectAll()
+{
+    // All items are rows of one folder, which one range holds; the base looks for it item by item.
+    if (selectionMode() == ExtendedSelection || selectionMode() == MultiSelection)
+        QAbstractItemView::selectAll();
+    else
+        QTreeView::selectAll();
+}
+
 void CKTTreeView::startDrag(Qt::DropActions supportedActions)
 {
     const QModelIndexList indexes = selectedIndexes();

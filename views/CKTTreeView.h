@@ -19,6 +19,8 @@ public:
     CKTTreeView(QWidget* parent, CKTFileManager* owner);
     ~CKTTreeView() override;
 
+    void selectAll() override;
+
 protected:
     /**
      * Drags the selected rows; the drop target may copy them and nothing else, or choose from

@@ -16,6 +16,7 @@
 #include "widget/PasteRules.h"
 #include "widget/PasteTurn.h"
 #include "widget/ReplacePrompt.h"
+#include "widget/SelectedItems.h"
 #include "widget/TranslatedNames.h"
 #include "widget/TreeCopy.h"
 #include "widget/TreeRemoval.h"
@@ -118,11 +119,7 @@ QModelIndexList CKTFileManager::SelectedListItems() const
 {
     if (ShownFolder(*m_pListModel).isEmpty())
         return QModelIndexList();
-    // The grid selects items, not rows.
-    QModelIndexList selected = m_pListSelectionModel->selectedRows(0);
-    if (selected.isEmpty())
-        selected = m_pListSelectionModel->selectedIndexes();
-    return FirstOfEachRow(selected);
+    return FirstOfEachRow(SelectedItems::Of(*m_pListSelectionModel));
 }
 
 QStringList CKTFileManager::PathsOfSelected(const QModelIndexList& selected) const

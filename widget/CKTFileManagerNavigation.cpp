@@ -9,10 +9,10 @@
 #include "models/FileSystemItem.h"
 #include "views/CKTListView.h"
 #include "views/CKTTreeView.h"
+#include "widget/SelectedItems.h"
 
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QHash>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QStackedWidget>
@@ -29,57 +29,6 @@ constexpr QDir::Filters ListRefreshFilter = QDir::Filters(QDir::Files | QDir::No
 QString PathIn(const QFileSystemModel& model, const QModelIndex& index)
 {
     return index.model() == &model ? model.filePath(index) : QString();
-}
-
-/** Tells the paths of many items of one folder, whose own is made once. */
-class FolderPath
-{
-public:
-    FolderPath(const QFileSystemModel& model, const QModelIndex& folder) : m_model(model), m_folder(folder)
-    {
-        if (folder.isValid())
-            m_path = model.filePath(folder);
-        if (!m_path.endsWith(QLatin1Char('/')))
-            m_path += QLatin1Char('/');
-    }
-
-    /** @return what the model answers, which looks every folder above the item up among its siblings */
-    QString PathOf(const QModelIndex& item) const
-    {
-        const QFileInfo info = m_model.fileInfo(item);
-        const bool isHere = m_folder.isValid() && m_model.index(item.row(), item.column(), m_folder) == item;
-        // The path of a link may be its target's.
-        return isHere && !info.isSymLink() ? m_path + info.fileName() : m_model.filePath(item);
-    }
-
-private:
-    const QFileSystemModel& m_model;
-    QModelIndex m_folder;
-    QString m_path;
-};
-
-/**
- * @return the first column of the rows that are selected from end to end, in the order of selection. It is
- *         what QItemSelectionModel::selectedRows gives, at a cost that does not grow with the square of a
- *         selection that has many gaps.
- */
-QModelIndexList WholeRows(const QItemSelectionModel& selection)
-{
-    QModelIndexList rows;
-    QHash<QModelIndex, int> cells;
-    const QItemSelection ranges = selection.selection();
-    for (const QItemSelectionRange& range : ranges) {
-        const QAbstractItemModel& model = *range.model();
-        const QModelIndex parent = range.parent();
-        const int columns = model.columnCount(parent);
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            const QModelIndex first = model.index(row, 0, parent);
-            // Most often a range goes from end to end, and nothing has to be counted.
-            if (range.width() == columns || (cells[first] += range.width()) == columns)
-                rows.append(first);
-        }
-    }
-    return rows;
 }
 
 } // namespace
@@ -229,23 +178,19 @@ bool CKTFileManager::IsFocus() const
 
 QStringList CKTFileManager::GetCurSelectedFileList(bool fromList) const
 {
-    QStringList paths;
     if (!fromList) {
+        QStringList paths;
         const QModelIndexList folders = m_pTreeSelectionModel->selectedIndexes();
         for (const QModelIndex& index : folders)
             paths.append(m_pTreeModel->filePath(index));
         return paths;
     }
-    // The grid selects items, not rows.
-    QModelIndexList indexes = WholeRows(*m_pListSelectionModel);
-    if (indexes.isEmpty())
-        indexes = m_pListSelectionModel->selectedIndexes();
-    const FolderPath folder(*m_pListModel, MapToSource(m_pListView->rootIndex()));
-    paths.reserve(indexes.size());
-    for (const QModelIndex& index : qAsConst(indexes))
-        paths.append(folder.PathOf(MapToSource(index)));
-    paths.removeDuplicates();
-    return paths;
+    const QModelIndexList selected = SelectedItems::Of(*m_pListSelectionModel);
+    QVector<QModelIndex> items;
+    items.reserve(selected.size());
+    for (const QModelIndex& index : selected)
+        items.append(MapToSource(index));
+    return SelectedItems::Paths(*m_pListModel, items, MapToSource(m_pListView->rootIndex()));
 }
 
 QStringList CKTFileManager::GetAllFilePathFromListView(const QStringList& nameFilters) const

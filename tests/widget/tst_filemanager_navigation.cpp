@@ -9,6 +9,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListView>
+#include <QPaintEvent>
 #include <QSortFilterProxyModel>
 #include <QStackedWidget>
 #include <QTreeView>
@@ -75,7 +76,23 @@ public:
     static constexpr int Count = 6;
 };
 
+/** The parts of a widget that were painted. */
+class PaintedRegion : public QObject
+{
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            m_region += static_cast<QPaintEvent*>(event)->region();
+        return false;
+    }
+
+    QRegion m_region;
+};
+
 } // namespace
+
+Q_DECLARE_METATYPE(EKTFMSelectionMode)
 
 class tst_FileManagerNavigation : public QObject
 {
@@ -135,6 +152,10 @@ private Q_SLOTS:
     void selectedPathsAreThoseOfTheModel_data();
     void selectedPathsAreThoseOfTheModel();
     void selectedFilesOfManyRows();
+    void selectingAllPaintsTheFilesInSight_data();
+    void selectingAllPaintsTheFilesInSight();
+    void selectingAllObeysTheSelectionMode_data();
+    void selectingAllObeysTheSelectionMode();
     void selectedRowsWithGaps();
     void selectedCellsOfOneRowCountOnce();
     void selectedFoldersOfTheTree();
@@ -891,6 +912,67 @@ void tst_FileManagerNavigation::selectedFilesOfManyRows()
     f.m_pPane->SetViewMode(FM_VIEW_DETAIL);
     QCOMPARE(f.m_pPane->GetCurSelectedFileList(true).size(), Files);
     QCOMPARE(Sorted(f.m_pPane->GetCurSelectedFileList(true)), fromGrid);
+}
+
+void tst_FileManagerNavigation::selectingAllPaintsTheFilesInSight_data()
+{
+    QTest::addColumn<int>("files");
+    QTest::newRow("a few") << 10;
+    QTest::newRow("more than are looked up") << 1100;
+}
+
+void tst_FileManagerNavigation::selectingAllPaintsTheFilesInSight()
+{
+    QFETCH(int, files);
+    PaneFixture f;
+    for (int i = 0; i < files; ++i)
+        f.m_folder.File(QString::number(i));
+    f.m_pPane->SetSelectionMode(FM_SELECTION_EXTENDED);
+    QVERIFY(f.ShowFolder(files));
+    const QRect first = f.Grid()->visualRect(f.Proxy()->index(0, 0, f.Grid()->rootIndex()));
+    QApplication::processEvents();
+    PaintedRegion painted;
+    f.Grid()->viewport()->installEventFilter(&painted);
+    for (int i = 0; i < 2; ++i) {
+        painted.m_region = QRegion();
+        if (i == 0)
+            f.m_pPane->DoCommand(FM_CMD_SELECT_ALL);
+        else
+            f.Grid()->clearSelection();
+        QTRY_VERIFY(painted.m_region.contains(first));
+    }
+}
+
+void tst_FileManagerNavigation::selectingAllObeysTheSelectionMode_data()
+{
+    QTest::addColumn<EKTFMSelectionMode>("mode");
+    QTest::newRow("none") << FM_SELECTION_NONE;
+    QTest::newRow("single") << FM_SELECTION_SINGLE;
+    QTest::newRow("multi") << FM_SELECTION_MULTI;
+    QTest::newRow("extended") << FM_SELECTION_EXTENDED;
+    QTest::newRow("contiguous") << FM_SELECTION_CONTIGUOUS;
+}
+
+void tst_FileManagerNavigation::selectingAllObeysTheSelectionMode()
+{
+    QFETCH(EKTFMSelectionMode, mode);
+    MixedFolder f;
+    QVERIFY(f.ShowFolder(MixedFolder::Count));
+    f.m_pPane->SetViewMode(FM_VIEW_DETAIL);
+    f.m_pPane->SetSelectionMode(mode);
+    f.m_pPane->ClearCurrentSelection();
+    // What the base does in the same mode, in a view of its own.
+    QTreeView plain;
+    plain.setModel(f.Proxy());
+    plain.setRootIndex(f.Details()->rootIndex());
+    plain.setSelectionMode(f.Details()->selectionMode());
+    plain.setSelectionBehavior(f.Details()->selectionBehavior());
+    plain.show();
+    plain.selectAll();
+    f.Details()->selectAll();
+    QCOMPARE(f.Details()->selectionModel()->selectedRows(), plain.selectionModel()->selectedRows());
+    QCOMPARE(f.Details()->selectionModel()->selectedIndexes().size(),
+             plain.selectionModel()->selectedIndexes().size());
 }
 
 void tst_FileManagerNavigation::selectedRowsWithGaps()
