@@ -13,11 +13,16 @@ CKTTreeView::~CKTTreeView() = default;
 
 void CKTTreeView::selectAll()
 {
-    // All items are rows of one folder, which one range holds; the base looks for it item by item.
-    if (selectionMode() == ExtendedSelection || selectionMode() == MultiSelection)
-        QAbstractItemView::selectAll();
-    else
+    const int rows = model() ? model()->rowCount(rootIndex()) : 0;
+    if (rows == 0 || (selectionMode() != ExtendedSelection && selectionMode() != MultiSelection)) {
         QTreeView::selectAll();
+        return;
+    }
+    // All items are rows of one folder, which one range holds; the base looks for it item by item.
+    const QModelIndex first = model()->index(0, 0, rootIndex());
+    const QModelIndex last = model()->index(rows - 1, model()->columnCount(rootIndex()) - 1, rootIndex());
+    selectionModel()->select(QItemSelection(first, last),
+                             QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
 }
 
 void CKTTreeView::startDrag(Qt::DropActions supportedActions)

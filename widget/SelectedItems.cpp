@@ -85,7 +85,7 @@ std::vector<int> InRowOrder(const QVector<QModelIndex>& items)
     for (const QModelIndex& item : items)
         last = std::max(last, item.row());
     // Where each row begins, from -1 on, which is that of an index of nothing.
-    const auto slot = [](int row) { return static_cast<std::size_t>(row + 1); };
+    const auto slot = [](int row) { return static_cast<std::size_t>(row) + 1; };
     std::vector<int> begins(slot(last) + 2);
     for (const QModelIndex& item : items)
         ++begins[slot(item.row()) + 1];
