@@ -122,7 +122,11 @@ void tst_SelectedItems::pathsAreThoseOfTheModelInAnyOrder()
     std::mt19937 random(1);
     for (int round = 0; round < 5; ++round) {
         std::shuffle(items.begin(), items.end(), random);
-        QCOMPARE(SelectedItems::Paths(f.m_model, items, f.Folder()), f.PathsOfModel(items));
+        // On Windows the link is named by its target, which is listed too.
+        QStringList expected = f.PathsOfModel(items);
+        expected.removeDuplicates();
+        QVERIFY(expected.size() > Listed::Files);
+        QCOMPARE(SelectedItems::Paths(f.m_model, items, f.Folder()), expected);
     }
 }
 
