@@ -21,13 +21,17 @@ bool IsWithin(const QFileSystemModel& model, const QString& path, const QString&
     return index.isValid();
 }
 
-/** @return @p path, or the folder that it is a link to when the model has no links; an empty text when the
+/** @return @p path, or the folder that it is a link to, since the model has no links; an empty text when the
  * model does not have that either, as with hidden folders */
 QString ShownPath(const QFileSystemModel& model, const QString& path)
 {
-    if (model.index(path).isValid())
+    // Asked by the disk: until the model has listed the folder above, it takes both for folders like others.
+    const QFileInfo folder(path);
+    if (folder.isHidden() && !folder.isRoot())
+        return QString();
+    if (!folder.isSymLink() && model.index(path).isValid())
         return path;
-    const QString target = QFileInfo(path).canonicalFilePath();
+    const QString target = folder.canonicalFilePath();
     return model.index(target).isValid() ? target : QString();
 }
 
